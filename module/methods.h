@@ -1,0 +1,5 @@
+// The module's method table, assembled from the per-family binding tables.
+#pragma once
+#include "runtime/swigrt.h"
+
+extern PyMethodDef SwigMethods[];

@@ -1,0 +1,261 @@
+// The pointer proxy types SwigPyObject and SwigPyPacked.
+#include "swigrt.h"
+// The family's runtime saves and restores the pending exception as a triple.
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+static const char swigobject_doc[] = "Swig object carries a C/C++ instance pointer";
+static const char swigpacked_doc[] = "Swig object carries a C/C++ instance pointer";
+
+char *SWIG_PackData(char *c, const void *ptr, size_t sz) {
+    static const char hex[17] = "0123456789abcdef";
+    const unsigned char *u = (const unsigned char *)ptr;
+    for (size_t i = 0; i < sz; ++i) {
+        *c++ = hex[(u[i] & 0xf0) >> 4];
+        *c++ = hex[u[i] & 0xf];
+    }
+    return c;
+}
+
+// ---- SwigPyObject -------------------------------------------------------------
+
+static bool has_type_name(PyObject *op, PyTypeObject *own, const char *name) {
+    PyTypeObject *t = Py_TYPE(op);
+    return t == own || std::strcmp(t->tp_name, name) == 0;
+}
+
+int SwigPyObject_Check(PyObject *op) {
+    return has_type_name(op, SwigPyObject_type(), "swig_runtime_data4.SwigPyObject");
+}
+
+static PyObject *SwigPyObject_repr(PyObject *o) {
+    auto *v = (SwigPyObject *)o;
+    PyObject *repr = PyUnicode_FromFormat("<Swig Object of type '%s' at %p>", SWIG_TypePrettyName(v->ty), (void *)v);
+    if (repr && v->next) {
+        PyObject *nrep = SwigPyObject_repr(v->next);
+        if (nrep) {
+            PyObject *joined = PyUnicode_Concat(repr, nrep);
+            Py_DECREF(nrep);
+            Py_DECREF(repr);
+            repr = joined;
+        } else {
+            Py_DECREF(repr);
+            repr = nullptr;
+        }
+    }
+    return repr;
+}
+
+static PyObject *SwigPyObject_repr2(PyObject *v, PyObject *) { return SwigPyObject_repr(v); }
+
+static PyObject *SwigPyObject_richcompare(PyObject *v, PyObject *w, int op) {
+    if (PyErr_Occurred()) return nullptr;
+    if (op != Py_EQ && op != Py_NE) Py_RETURN_NOTIMPLEMENTED;
+    // The second operand is read as a SwigPyObject without a check, as the family's runtime does.
+    bool same = ((SwigPyObject *)v)->ptr == ((SwigPyObject *)w)->ptr;
+    return PyBool_FromLong(same == (op == Py_EQ));
+}
+
+static PyObject *SwigPyObject_long(PyObject *v) { return PyLong_FromVoidPtr(((SwigPyObject *)v)->ptr); }
+
+static PyObject *SwigPyObject_disown(PyObject *v, PyObject *) {
+    ((SwigPyObject *)v)->own = 0;
+    Py_RETURN_NONE;
+}
+
+static PyObject *SwigPyObject_acquire(PyObject *v, PyObject *) {
+    ((SwigPyObject *)v)->own = SWIG_POINTER_OWN;
+    Py_RETURN_NONE;
+}
+
+static PyObject *SwigPyObject_own(PyObject *v, PyObject *args) {
+    PyObject *val = nullptr;
+    if (!PyArg_UnpackTuple(args, "own", 0, 1, &val)) return nullptr;
+    auto *sobj = (SwigPyObject *)v;
+    PyObject *obj = PyBool_FromLong(sobj->own);
+    if (val) sobj->own = PyObject_IsTrue(val) ? SWIG_POINTER_OWN : 0;
+    return obj;
+}
+
+PyObject *SwigPyObject_append(PyObject *v, PyObject *next) {
+    if (!SwigPyObject_Check(next)) {
+        PyErr_SetString(PyExc_TypeError, "Attempt to append a non SwigPyObject");
+        return nullptr;
+    }
+    auto *sobj = (SwigPyObject *)v;
+    ((SwigPyObject *)next)->next = sobj->next;
+    sobj->next = next;
+    Py_INCREF(next);
+    Py_RETURN_NONE;
+}
+
+static PyObject *SwigPyObject_next(PyObject *v, PyObject *) {
+    auto *sobj = (SwigPyObject *)v;
+    if (sobj->next) return Py_NewRef(sobj->next);
+    Py_RETURN_NONE;
+}
+
+static void SwigPyObject_dealloc(PyObject *v) {
+    auto *sobj = (SwigPyObject *)v;
+    PyObject *next = sobj->next;
+    if (sobj->own == SWIG_POINTER_OWN) {
+        swig_type_info *ty = sobj->ty;
+        auto *data = ty ? (SwigPyClientData *)ty->clientdata : nullptr;
+        PyObject *destroy = data ? data->destroy : nullptr;
+        if (destroy) {
+            PyObject *type, *value, *traceback;
+            PyErr_Fetch(&type, &value, &traceback);
+            PyObject *res = nullptr;
+            if (data->delargs) {
+                // A temporary that does not own, so the destroy call cannot recurse into here.
+                PyObject *tmp = SwigPyObject_New(sobj->ptr, ty, 0);
+                if (tmp) {
+                    res = PyObject_CallFunctionObjArgs(destroy, tmp, nullptr);
+                    Py_DECREF(tmp);
+                }
+            } else {
+                PyCFunction meth = PyCFunction_GET_FUNCTION(destroy);
+                PyObject *mself = (PyCFunction_GET_FLAGS(destroy) & METH_STATIC) ? nullptr : PyCFunction_GET_SELF(destroy);
+                res = meth(mself, v);
+            }
+            if (res) {
+                PyErr_Restore(type, value, traceback);
+                Py_DECREF(res);
+            } else {
+                PyErr_WriteUnraisable(destroy);
+                PyErr_Restore(type, value, traceback);
+            }
+        } else {
+            std::printf("swig/python detected a memory leak of type '%s', no destructor found.\n", SWIG_TypePrettyName(ty));
+        }
+        Py_XDECREF(Swig_Capsule_global);
+    }
+    Py_XDECREF(next);
+    PyObject_Free(v);
+}
+
+static PyMethodDef swigobject_methods[] = {
+    {"disown", SwigPyObject_disown, METH_NOARGS, "releases ownership of the pointer"},
+    {"acquire", SwigPyObject_acquire, METH_NOARGS, "acquires ownership of the pointer"},
+    {"own", SwigPyObject_own, METH_VARARGS, "returns/sets ownership of the pointer"},
+    {"append", SwigPyObject_append, METH_O, "appends another 'this' object"},
+    {"next", SwigPyObject_next, METH_NOARGS, "returns the next 'this' object"},
+    {"__repr__", SwigPyObject_repr2, METH_NOARGS, "returns object representation"},
+    {nullptr, nullptr, 0, nullptr},
+};
+
+static PyTypeObject *SwigPyObject_TypeOnce() {
+    static PyType_Slot slots[] = {
+        {Py_tp_dealloc, (void *)SwigPyObject_dealloc},
+        {Py_tp_repr, (void *)SwigPyObject_repr},
+        {Py_tp_getattro, (void *)PyObject_GenericGetAttr},
+        {Py_tp_doc, (void *)swigobject_doc},
+        {Py_tp_richcompare, (void *)SwigPyObject_richcompare},
+        {Py_tp_methods, (void *)swigobject_methods},
+        {Py_nb_int, (void *)SwigPyObject_long},
+        {0, nullptr},
+    };
+    static PyType_Spec spec = {"swig_runtime_data4.SwigPyObject", sizeof(SwigPyObject), 0, Py_TPFLAGS_BASETYPE, slots};
+    return (PyTypeObject *)PyType_FromSpec(&spec);
+}
+
+PyTypeObject *SwigPyObject_type() {
+    // A failed build throws out of the static initialiser, so the next call retries.
+    struct Once {
+        PyTypeObject *type;
+        Once() : type(SwigPyObject_TypeOnce()) {
+            if (!type) throw 0;
+        }
+    };
+    try {
+        static Once once;
+        return once.type;
+    } catch (int) {
+        return nullptr;
+    }
+}
+
+PyObject *SwigPyObject_New(void *ptr, swig_type_info *ty, int own) {
+    auto *sobj = PyObject_New(SwigPyObject, SwigPyObject_type());
+    if (sobj) {
+        sobj->ptr = ptr;
+        sobj->ty = ty;
+        sobj->own = own;
+        sobj->next = nullptr;
+    }
+    return (PyObject *)sobj;
+}
+
+// ---- SwigPyPacked ---------------------------------------------------------------
+
+
+static PyObject *SwigPyPacked_repr(PyObject *o) {
+    auto *v = (SwigPyPacked *)o;
+    char result[1024];
+    if (2 * v->size + 2 > sizeof(result)) return PyUnicode_FromFormat("<Swig Packed %s>", v->ty->name);
+    result[0] = '_';
+    *SWIG_PackData(result + 1, v->pack, v->size) = 0;
+    return PyUnicode_FromFormat("<Swig Packed at %s%s>", result, v->ty->name);
+}
+
+static PyObject *SwigPyPacked_str(PyObject *o) {
+    auto *v = (SwigPyPacked *)o;
+    char result[1024];
+    if (2 * v->size + 2 > sizeof(result)) return PyUnicode_FromString(v->ty->name);
+    result[0] = '_';
+    *SWIG_PackData(result + 1, v->pack, v->size) = 0;
+    return PyUnicode_FromFormat("%s%s", result, v->ty->name);
+}
+
+static void SwigPyPacked_dealloc(PyObject *v) {
+    if (SwigPyPacked_Check(v)) std::free(((SwigPyPacked *)v)->pack);
+    PyObject_Free(v);
+}
+
+static PyType_Slot swigpacked_slots[] = {
+    {Py_tp_dealloc, (void *)SwigPyPacked_dealloc},
+    {Py_tp_repr, (void *)SwigPyPacked_repr},
+    {Py_tp_str, (void *)SwigPyPacked_str},
+    {Py_tp_getattro, (void *)PyObject_GenericGetAttr},
+    {Py_tp_doc, (void *)swigpacked_doc},
+    {0, nullptr},
+};
+static PyType_Spec swigpacked_spec = {"swig_runtime_data4.SwigPyPacked", sizeof(SwigPyPacked), 0, 0, swigpacked_slots};
+
+int SwigPyPacked_Check(PyObject *op) {
+    // The identity test uses a type built afresh from the spec (never released); the name test decides.
+    auto *fresh = (PyTypeObject *)PyType_FromSpec(&swigpacked_spec);
+    return Py_TYPE(op) == fresh || std::strcmp(Py_TYPE(op)->tp_name, "swig_runtime_data4.SwigPyPacked") == 0;
+}
+
+PyTypeObject *SwigPyPacked_type() {
+    struct Once {
+        PyTypeObject *type;
+        Once() : type((PyTypeObject *)PyType_FromSpec(&swigpacked_spec)) {
+            if (!type) throw 0;
+        }
+    };
+    try {
+        static Once once;
+        return once.type;
+    } catch (int) {
+        return nullptr;
+    }
+}
+
+PyObject *SwigPyPacked_New(void *ptr, size_t size, swig_type_info *ty) {
+    auto *sobj = PyObject_New(SwigPyPacked, SwigPyPacked_type());
+    if (!sobj) return nullptr;
+    void *pack = std::malloc(size);
+    if (!pack) {
+        PyObject_Free(sobj);
+        return nullptr;
+    }
+    std::memcpy(pack, ptr, size);
+    sobj->pack = pack;
+    sobj->ty = ty;
+    sobj->size = size;
+    return (PyObject *)sobj;
+}

@@ -1,0 +1,184 @@
+// The binding runtime shared by every extension module of the family: the type
+// table and cast graph, the pointer proxy types, pointer and scalar conversion,
+// error reporting and the global-variable link object.
+//
+// Each module that links this runtime gets its own copy of the module-wide
+// globals below; modules meet only through the shared capsule and through the
+// type records they share by name.
+#pragma once
+
+#define PY_SSIZE_T_CLEAN
+#include <Python.h>
+#include <cstdint>
+
+// ---- status codes -----------------------------------------------------------
+enum : int {
+    SWIG_OK = 0,
+    SWIG_ERROR = -1,
+    SWIG_IOError = -2,
+    SWIG_RuntimeError = -3,
+    SWIG_IndexError = -4,
+    SWIG_TypeError = -5,
+    SWIG_DivisionByZero = -6,
+    SWIG_OverflowError = -7,
+    SWIG_SyntaxError = -8,
+    SWIG_ValueError = -9,
+    SWIG_SystemError = -10,
+    SWIG_AttributeError = -11,
+    SWIG_MemoryError = -12,
+    SWIG_NullReferenceError = -13,
+};
+
+// Conversion flags and creation modes.
+enum : int {
+    SWIG_POINTER_DISOWN = 1,
+    SWIG_POINTER_NO_NULL = 4,
+    SWIG_POINTER_OWN = 1,
+    SWIG_POINTER_NOSHADOW = 2,
+    SWIG_POINTER_NEW = SWIG_POINTER_OWN | SWIG_POINTER_NOSHADOW,
+};
+
+// ---- type registry ----------------------------------------------------------
+struct swig_type_info;
+typedef void *(*swig_converter_func)(void *, int *);
+typedef swig_type_info *(*swig_dycast_func)(void **);
+
+struct swig_type_info {
+    const char *name;
+    const char *str;
+    swig_dycast_func dcast;
+    struct swig_cast_info *cast;
+    void *clientdata;
+    int owndata;
+};
+
+struct swig_cast_info {
+    swig_type_info *type;
+    swig_converter_func converter;
+    swig_cast_info *next;
+    swig_cast_info *prev;
+};
+
+struct swig_module_info {
+    swig_type_info **types;
+    size_t size;
+    swig_module_info *next;
+    swig_type_info **type_initial;
+    swig_cast_info **cast_initial;
+    void *clientdata;
+};
+
+#define SWIG_CAPSULE_NAME "swig_runtime_data4.type_pointer_capsule"
+
+swig_cast_info *SWIG_TypeCheck(const char *name, swig_type_info *ty);
+void *SWIG_TypeCast(swig_cast_info *cast, void *ptr, int *newmemory);
+void SWIG_TypeClientData(swig_type_info *ti, void *clientdata);
+swig_type_info *SWIG_MangledTypeQueryModule(swig_module_info *start, swig_module_info *end, const char *name);
+swig_type_info *SWIG_TypeQueryModule(swig_module_info *start, swig_module_info *end, const char *name);
+swig_type_info *SWIG_Python_TypeQuery(const char *name);
+const char *SWIG_TypePrettyName(const swig_type_info *type);
+
+// ---- module-wide globals (one set per linking module) ------------------------
+extern PyObject *Swig_This_global;
+extern PyObject *Swig_TypeCache_global;
+extern PyObject *Swig_Globals_global;
+extern PyObject *Swig_Capsule_global;
+extern uint32_t interpreter_counter;
+
+PyObject *SWIG_This();
+PyObject *SWIG_Python_TypeCache();
+PyObject *SWIG_globals();
+
+// ---- module table: join, constants, teardown --------------------------------
+struct swig_const_info {
+    int type;
+    const char *name;
+    long lvalue;
+    double dvalue;
+    void *pvalue;
+    swig_type_info **ptype;
+};
+
+void SWIG_Python_JoinModuleTable(swig_module_info *module, swig_type_info **type_initial,
+                                 swig_cast_info **cast_initial);
+void SWIG_Python_DestroyModule(PyObject *capsule);
+void SWIG_Python_InstallConstantTable(PyObject *d, const swig_const_info *constants);
+void SWIG_Python_PatchPointerDocs(PyMethodDef *methods, const swig_const_info *constants,
+                                  swig_type_info **types);
+void SWIG_Python_SetConstant(PyObject *d, const char *name, PyObject *value);
+
+// ---- pointer proxy objects --------------------------------------------------
+struct SwigPyObject {
+    PyObject_HEAD
+    void *ptr;
+    swig_type_info *ty;
+    int own;
+    PyObject *next;
+};
+
+struct SwigPyPacked {
+    PyObject_HEAD
+    void *pack;
+    swig_type_info *ty;
+    size_t size;
+};
+
+PyTypeObject *SwigPyObject_type();
+PyTypeObject *SwigPyPacked_type();
+int SwigPyObject_Check(PyObject *op);
+int SwigPyPacked_Check(PyObject *op);
+PyObject *SwigPyObject_New(void *ptr, swig_type_info *ty, int own);
+PyObject *SwigPyPacked_New(void *ptr, size_t size, swig_type_info *ty);
+PyObject *SwigPyObject_append(PyObject *v, PyObject *next);
+char *SWIG_PackData(char *c, const void *ptr, size_t sz);
+
+// ---- client data, pointer conversion and creation ---------------------------
+struct SwigPyClientData {
+    PyObject *klass;
+    PyObject *newraw;
+    PyObject *newargs;
+    PyObject *destroy;
+    int delargs;
+    int implicitconv;
+    PyTypeObject *pytype;
+};
+
+SwigPyClientData *SwigPyClientData_New(PyObject *obj);
+void SwigPyClientData_Del(SwigPyClientData *data);
+
+SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj);
+int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags);
+PyObject *SWIG_Python_NewPointerObj(void *ptr, swig_type_info *type, int flags);
+PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_this);
+
+// The four fixed forms the wrappers use.
+inline int SWIG_CheckPtr(PyObject *obj, swig_type_info *ty) {
+    return SWIG_Python_ConvertPtrAndOwn(obj, nullptr, ty, SWIG_POINTER_NO_NULL);
+}
+inline int SWIG_ConvertPtr(PyObject *obj, void **ptr, swig_type_info *ty) {
+    return SWIG_Python_ConvertPtrAndOwn(obj, ptr, ty, 0);
+}
+inline int SWIG_ConvertPtrNonNull(PyObject *obj, void **ptr, swig_type_info *ty) {
+    return SWIG_Python_ConvertPtrAndOwn(obj, ptr, ty, SWIG_POINTER_NO_NULL);
+}
+
+// Bodies of <Class>_swigregister (METH_O) and <Class>_swiginit (METH_VARARGS).
+PyObject *SWIG_Python_Register(swig_type_info *ty, PyObject *args);
+PyObject *SWIG_Python_Init(PyObject *args);
+
+// ---- scalars and errors -------------------------------------------------------
+PyObject *SWIG_Python_ErrorType(int code);
+void SWIG_Python_SetErrorMsg(PyObject *errtype, const char *msg);
+void SWIG_Python_RaiseOrModifyTypeError(const char *message);
+Py_ssize_t SWIG_Python_UnpackTuple(PyObject *args, const char *name, Py_ssize_t min, Py_ssize_t max,
+                                   PyObject **objs);
+int SWIG_AsVal_long(PyObject *obj, long *val);
+int SWIG_AsVal_unsigned_SS_long(PyObject *obj, unsigned long *val);
+int SWIG_AsVal_double(PyObject *obj, double *val);
+int SWIG_AsVal_float(PyObject *obj, float *val);
+
+// ---- global variable link object ----------------------------------------------
+typedef PyObject *(*swig_varlink_get)();
+typedef int (*swig_varlink_set)(PyObject *);
+PyObject *SWIG_newvarlink();
+void SWIG_Python_AddVarLink(PyObject *p, const char *name, swig_varlink_get get_attr, swig_varlink_set set_attr);
