@@ -2,4 +2,4 @@
 #pragma once
 #include "runtime/swigrt.h"
 
-extern PyMethodDef SwigMethods[];
+extern PyMethodDef *const SwigMethods;

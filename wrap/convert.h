@@ -1,0 +1,231 @@
+// Argument and result converters, chosen from the C++ type alone.
+#pragma once
+#include "wrap/descriptors.h"
+#include "wrap/text.h"
+
+#include <climits>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+namespace wrap {
+
+// Every converter takes the argument's message texts as a type M: M::plain is
+// "in method '...', argument N of type '...'", M::null_ref the same prefixed by
+// "invalid null reference ", M::spelling the declared type.
+inline bool fail(PyObject *type, const char *message) {
+    SWIG_Python_SetErrorMsg(type, message);
+    return false;
+}
+
+// Rank used to order overload candidates: wrapped classes are tried before numbers.
+enum class Rank { Class, Other };
+
+template <class P>
+struct Arg;
+
+// ---- wrapped pointers and references ----------------------------------------------
+
+template <Wrapped T>
+struct Arg<T *> {
+    using Store = T *;
+    static constexpr Rank rank = Rank::Class;
+    template <class M>
+    static bool convert(PyObject *o, Store &out, int flags) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrAndOwn(o, &p, descriptor<T>(), flags) != SWIG_OK) return fail(PyExc_TypeError, M::plain.v);
+        out = static_cast<T *>(p);
+        return true;
+    }
+    static bool test(PyObject *o) {
+        void *p;
+        return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;
+    }
+    static T *get(Store s) { return s; }
+};
+
+template <Wrapped T>
+struct Arg<T &> {
+    using Store = T *;
+    static constexpr Rank rank = Rank::Class;
+    template <class M>
+    static bool convert(PyObject *o, Store &out, int) {
+        void *p = nullptr;
+        if (SWIG_ConvertPtr(o, &p, descriptor<T>()) != SWIG_OK) return fail(PyExc_TypeError, M::plain.v);
+        if (!p) return fail(PyExc_TypeError, M::null_ref.v);
+        out = static_cast<T *>(p);
+        return true;
+    }
+    static bool test(PyObject *o) { return SWIG_CheckPtr(o, descriptor<T>()) == SWIG_OK; }
+    static T &get(Store s) { return *s; }
+};
+
+// ---- scalars ----------------------------------------------------------------------
+
+template <class T>
+struct Scalar {
+    using Store = T;
+    static constexpr Rank rank = Rank::Other;
+    static int as(PyObject *o, T *v) {
+        if constexpr (std::is_same_v<T, double>) {
+            return SWIG_AsVal_double(o, v);
+        } else if constexpr (std::is_same_v<T, float>) {
+            return SWIG_AsVal_float(o, v);
+        } else if constexpr (std::is_same_v<T, unsigned long>) {
+            return SWIG_AsVal_unsigned_SS_long(o, v);
+        } else if constexpr (std::is_same_v<T, long>) {
+            return SWIG_AsVal_long(o, v);
+        } else if constexpr (std::is_unsigned_v<T>) {
+            unsigned long l;
+            int res = SWIG_AsVal_unsigned_SS_long(o, &l);
+            if (res < 0) return res;
+            if (l > std::numeric_limits<T>::max()) return SWIG_OverflowError;
+            if (v) *v = static_cast<T>(l);
+            return res;
+        } else {  // int, short and enumerations, through long with a range check
+            using I = std::conditional_t<std::is_enum_v<T>, int, T>;
+            long l;
+            int res = SWIG_AsVal_long(o, &l);
+            if (res < 0) return res;
+            if (l < std::numeric_limits<I>::min() || l > std::numeric_limits<I>::max()) return SWIG_OverflowError;
+            if (v) *v = static_cast<T>(l);
+            return res;
+        }
+    }
+    template <class M>
+    static bool convert(PyObject *o, Store &out, int) {
+        int res = as(o, &out);
+        if (res < 0) return fail(SWIG_Python_ErrorType(res), M::plain.v);
+        return true;
+    }
+    static bool test(PyObject *o) { return as(o, nullptr) >= 0; }
+    static T get(Store s) { return s; }
+};
+
+template <class T>
+    requires(std::is_arithmetic_v<T> || std::is_enum_v<T>)
+struct Arg<T> : Scalar<T> {};
+
+template <class T>
+    requires(std::is_arithmetic_v<T> || std::is_enum_v<T>)
+struct Arg<const T> : Scalar<T> {};
+
+// Only True and False are booleans.
+template <>
+struct Arg<bool> {
+    using Store = bool;
+    static constexpr Rank rank = Rank::Other;
+    template <class M>
+    static bool convert(PyObject *o, Store &out, int) {
+        int r = PyBool_Check(o) ? PyObject_IsTrue(o) : -1;
+        if (r < 0) return fail(PyExc_TypeError, M::plain.v);
+        out = r != 0;
+        return true;
+    }
+    static bool test(PyObject *o) { return PyBool_Check(o); }
+    static bool get(Store s) { return s; }
+};
+
+// ---- C strings: a str, a char * proxy, or None --------------------------------------
+
+inline swig_type_info *pchar_descriptor() {
+    static swig_type_info *info = nullptr;
+    if (!info) info = SWIG_Python_TypeQuery("_p_char");
+    return info;
+}
+
+inline bool as_cstring(PyObject *o, const char **out) {
+    if (PyUnicode_Check(o)) {
+        Py_ssize_t n;
+        const char *s = PyUnicode_AsUTF8AndSize(o, &n);
+        if (!s) {
+            PyErr_Clear();
+            return false;
+        }
+        if (out) *out = s;
+        return true;
+    }
+    swig_type_info *pchar = pchar_descriptor();
+    void *p = nullptr;
+    if (!pchar || SWIG_ConvertPtr(o, &p, pchar) != SWIG_OK) return false;
+    if (out) *out = static_cast<const char *>(p);
+    return true;
+}
+
+template <>
+struct Arg<const char *> {
+    using Store = const char *;
+    static constexpr Rank rank = Rank::Other;
+    template <class M>
+    static bool convert(PyObject *o, Store &out, int) {
+        return as_cstring(o, &out) || fail(PyExc_TypeError, M::plain.v);
+    }
+    static bool test(PyObject *o) { return as_cstring(o, nullptr); }
+    static const char *get(Store s) { return s; }
+};
+
+// ---- a member array's source: N elements behind a pointer proxy of the element type ----
+
+template <class T, std::size_t N>
+struct ArrayIn {
+    T *data;
+};
+
+template <class T, std::size_t N>
+struct Arg<ArrayIn<T, N>> {
+    using Store = ArrayIn<T, N>;
+    static constexpr Rank rank = Rank::Class;
+    template <class M>
+    static bool convert(PyObject *o, Store &out, int) {
+        static constexpr auto null_var = cat(Text("invalid null reference in variable '_v' of type '"), M::spelling, Text("'"));
+        void *p = nullptr;
+        if (SWIG_ConvertPtr(o, &p, descriptor<T>()) != SWIG_OK) return fail(PyExc_TypeError, M::plain.v);
+        if (!p) return fail(PyExc_TypeError, null_var.v);
+        out.data = static_cast<T *>(p);
+        return true;
+    }
+    static bool test(PyObject *o) {
+        void *p;
+        return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;
+    }
+    static Store get(Store s) { return s; }
+};
+
+// ---- results ------------------------------------------------------------------------
+
+template <class R>
+PyObject *to_python(R &&r) {
+    using T = std::remove_cvref_t<R>;
+    if constexpr (std::is_same_v<T, bool>) {
+        return PyBool_FromLong(r);
+    } else if constexpr (std::is_floating_point_v<T> && !std::is_reference_v<R>) {
+        return PyFloat_FromDouble(r);
+    } else if constexpr (std::is_same_v<T, unsigned long> && !std::is_reference_v<R>) {
+        return PyLong_FromUnsignedLong(r);
+    } else if constexpr ((std::is_unsigned_v<T>)&&!std::is_reference_v<R>) {
+        return PyLong_FromSize_t(r);
+    } else if constexpr ((std::is_integral_v<T> || std::is_enum_v<T>)&&!std::is_reference_v<R>) {
+        return PyLong_FromLong(static_cast<long>(r));
+    } else if constexpr (std::is_same_v<T, const char *> || std::is_same_v<T, char *>) {
+        if (!r) Py_RETURN_NONE;
+        size_t size = std::strlen(r);
+        if (size > INT_MAX) {
+            swig_type_info *pchar = pchar_descriptor();
+            if (!pchar) Py_RETURN_NONE;
+            return SWIG_Python_NewPointerObj(const_cast<char *>(r), pchar, 0);
+        }
+        return PyUnicode_DecodeUTF8(r, (Py_ssize_t)size, "surrogateescape");
+    } else if constexpr (std::is_pointer_v<T>) {
+        using P = std::remove_cv_t<std::remove_pointer_t<T>>;
+        static_assert(Wrapped<P>, "pointer result of a type without a descriptor");
+        return SWIG_Python_NewPointerObj(const_cast<P *>(r), descriptor<P>(), 0);
+    } else if constexpr (std::is_lvalue_reference_v<R>) {
+        static_assert(Wrapped<T>, "reference result of a type without a descriptor");
+        return SWIG_Python_NewPointerObj(const_cast<T *>(&r), descriptor<T>(), 0);
+    } else {
+        static_assert(Wrapped<T>, "by-value result of a type without a descriptor");
+        return SWIG_Python_NewPointerObj(new T(static_cast<R &&>(r)), descriptor<T>(), SWIG_POINTER_OWN);
+    }
+}
+
+}  // namespace wrap

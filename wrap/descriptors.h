@@ -1,0 +1,71 @@
+// Which type descriptor a C++ type crosses the boundary with. A type listed here is
+// passed as a pointer proxy (by pointer, by reference, or as an owned heap copy when
+// returned by value); every other type must be a scalar, bool or C string.
+#pragma once
+#include "module/osg_headers.h"
+#include "module/types.h"
+
+#include <string>
+
+namespace wrap {
+
+template <class T>
+inline constexpr int descriptor_of = -1;
+
+// clang-format off
+template <> inline constexpr int descriptor_of<osg::Referenced> = ty::p_osg__Referenced;
+template <> inline constexpr int descriptor_of<osg::Object> = ty::p_osg__Object;
+template <> inline constexpr int descriptor_of<osg::CopyOp> = ty::p_osg__CopyOp;
+template <> inline constexpr int descriptor_of<osg::DummyObject> = ty::p_osg__DummyObject;
+template <> inline constexpr int descriptor_of<osg::NotifyHandler> = ty::p_osg__NotifyHandler;
+template <> inline constexpr int descriptor_of<osg::StandardNotifyHandler> = ty::p_osg__StandardNotifyHandler;
+template <> inline constexpr int descriptor_of<osg::Observer> = ty::p_osg__Observer;
+template <> inline constexpr int descriptor_of<osg::ObserverSet> = ty::p_osg__ObserverSet;
+template <> inline constexpr int descriptor_of<osg::DeleteHandler> = ty::p_osg__DeleteHandler;
+template <> inline constexpr int descriptor_of<OpenThreads::Mutex> = ty::p_OpenThreads__Mutex;
+template <> inline constexpr int descriptor_of<osg::Node> = ty::p_osg__Node;
+template <> inline constexpr int descriptor_of<osg::NodeVisitor> = ty::p_osg__NodeVisitor;
+template <> inline constexpr int descriptor_of<osg::StateSet> = ty::p_osg__StateSet;
+template <> inline constexpr int descriptor_of<osg::StateAttribute> = ty::p_osg__StateAttribute;
+template <> inline constexpr int descriptor_of<osg::Uniform> = ty::p_osg__Uniform;
+template <> inline constexpr int descriptor_of<osg::Camera> = ty::p_osg__Camera;
+template <> inline constexpr int descriptor_of<osg::Drawable> = ty::p_osg__Drawable;
+template <> inline constexpr int descriptor_of<osg::Callback> = ty::p_osg__Callback;
+template <> inline constexpr int descriptor_of<osg::CallbackObject> = ty::p_osg__CallbackObject;
+template <> inline constexpr int descriptor_of<osg::UserDataContainer> = ty::p_osg__UserDataContainer;
+template <> inline constexpr int descriptor_of<osg::ValueObject> = ty::p_osg__ValueObject;
+template <> inline constexpr int descriptor_of<osg::Image> = ty::p_osg__Image;
+template <> inline constexpr int descriptor_of<osg::State> = ty::p_osg__State;
+template <> inline constexpr int descriptor_of<osg::Texture> = ty::p_osg__Texture;
+template <> inline constexpr int descriptor_of<osg::Array> = ty::p_osg__Array;
+template <> inline constexpr int descriptor_of<osg::PrimitiveSet> = ty::p_osg__PrimitiveSet;
+template <> inline constexpr int descriptor_of<osg::Shape> = ty::p_osg__Shape;
+template <> inline constexpr int descriptor_of<osg::StateAttributeCallback> = ty::p_osg__StateAttributeCallback;
+template <> inline constexpr int descriptor_of<osg::UniformCallback> = ty::p_osg__UniformCallback;
+template <> inline constexpr int descriptor_of<osg::Vec2f> = ty::p_osg__Vec2f;
+template <> inline constexpr int descriptor_of<osg::Vec2d> = ty::p_osg__Vec2d;
+template <> inline constexpr int descriptor_of<osg::Vec3f> = ty::p_osg__Vec3f;
+template <> inline constexpr int descriptor_of<osg::Vec3d> = ty::p_osg__Vec3d;
+template <> inline constexpr int descriptor_of<osg::Vec4f> = ty::p_osg__Vec4f;
+template <> inline constexpr int descriptor_of<osg::Vec4d> = ty::p_osg__Vec4d;
+template <> inline constexpr int descriptor_of<osg::Quat> = ty::p_osg__Quat;
+template <> inline constexpr int descriptor_of<osg::Matrixd> = ty::p_osg__Matrixd;
+template <> inline constexpr int descriptor_of<osg::Matrixf> = ty::p_osg__Matrixf;
+template <> inline constexpr int descriptor_of<std::string> = ty::p_std__string;
+template <> inline constexpr int descriptor_of<std::ostream> = ty::p_std__ostream;
+// Element pointers and out-parameters.
+template <> inline constexpr int descriptor_of<double> = ty::p_double;
+template <> inline constexpr int descriptor_of<float> = ty::p_float;
+template <> inline constexpr int descriptor_of<unsigned int> = ty::p_unsigned_int;
+template <> inline constexpr int descriptor_of<char> = ty::p_char;
+// clang-format on
+
+template <class T>
+concept Wrapped = descriptor_of<std::remove_cv_t<T>> >= 0;
+
+template <class T>
+inline swig_type_info *descriptor() {
+    return swig_types[descriptor_of<std::remove_cv_t<T>>];
+}
+
+}  // namespace wrap

@@ -1,0 +1,494 @@
+// The wrapper engine. A binding row names the Python function, the bound C++ callable and
+// the declared type spellings of its arguments; everything else (converters, result,
+// calling convention, arity checks and every message) is derived at compile time.
+//
+//   using K = Class<osg::Vec3f, "osg::Vec3f", "Vec3f">;
+//   K::fn<"length", &osg::Vec3f::length>()                        -> Vec3f_length
+//   K::fn<"__add__", &osg::Vec3f::operator+, "osg::Vec3f const &">(binary_op)
+//   K::overload<"x", K::m<"x", Nonconst<&V::x>>, K::m<"x", Const<&V::x>>>()
+//
+// See wrap/README.md for the concepts.
+#pragma once
+#include "wrap/convert.h"
+#include "wrap/text.h"
+#include "platform/zog_osg.h"
+
+#include <algorithm>
+#include <array>
+
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <tuple>
+#include <utility>
+
+namespace wrap {
+
+// ---- signatures of the bound callables ------------------------------------------------
+
+template <class... T>
+struct List {
+    static constexpr std::size_t size = sizeof...(T);
+    using First = std::tuple_element_t<0, std::tuple<T..., void>>;
+};
+
+template <class F>
+struct Signature;
+template <class R, class... A>
+struct Signature<R (*)(A...)> {
+    using Ret = R;
+    using Params = List<A...>;
+    using Self = void;
+    static constexpr bool is_const = false;
+};
+template <class R, class... A>
+struct Signature<R (*)(A...) noexcept> : Signature<R (*)(A...)> {};
+template <class R, class C, class... A>
+struct Signature<R (C::*)(A...)> {
+    using Ret = R;
+    using Params = List<C *, A...>;
+    using Self = C;
+    static constexpr bool is_const = false;
+};
+template <class R, class C, class... A>
+struct Signature<R (C::*)(A...) const> {
+    using Ret = R;
+    using Params = List<const C *, A...>;
+    using Self = C;
+    static constexpr bool is_const = true;
+};
+template <class R, class C, class... A>
+struct Signature<R (C::*)(A...) noexcept> : Signature<R (C::*)(A...)> {};
+template <class R, class C, class... A>
+struct Signature<R (C::*)(A...) const noexcept> : Signature<R (C::*)(A...) const> {};
+
+// A captureless lambda stands for its function pointer.
+template <auto F>
+constexpr auto callable() {
+    if constexpr (std::is_class_v<decltype(F)>) {
+        return +F;
+    } else {
+        return F;
+    }
+}
+
+// Picks one overload of a member or free function by its exact type.
+template <class F>
+constexpr F pick(F f) {
+    return f;
+}
+
+// ---- policies: what the C++ type cannot say -------------------------------------------
+
+enum class Result {
+    Plain,    // by the result type: borrowed pointers and references, owned copies of values
+    New,      // constructor: owned, no shadow instance
+    InPlace,  // in-place operator: argument 1 disowned, the same pointer returned owned
+    Disown,   // destroy: argument 1 converted with the disown flag
+};
+
+// The reference a constructor takes on its new object.
+enum class TakeRef { None, Count, Group };
+
+struct Policy {
+    Result result = Result::Plain;
+    bool not_implemented = false;  // binary operator: a TypeError becomes NotImplemented
+    TakeRef take_ref = TakeRef::None;
+};
+
+inline constexpr Policy plain{};
+inline constexpr Policy binary_op{Result::Plain, true};
+inline constexpr Policy in_place{Result::InPlace};
+inline constexpr Policy disown{Result::Disown};
+
+// ---- messages -------------------------------------------------------------------------
+
+template <Text Name, unsigned Index, Text Spelling>
+struct ArgText {
+    static constexpr auto spelling = Spelling;
+    static constexpr auto plain =
+        cat(Text("in method '"), Name, Text("', argument "), number<Index>(), Text(" of type '"), Spelling, Text("'"));
+    static constexpr auto null_ref = cat(Text("invalid null reference "), plain);
+};
+
+template <class T>
+inline void *address(T *p) {
+    return const_cast<void *>(static_cast<const void *>(p));
+}
+
+inline PyObject *not_implemented(PyObject *r) {
+    if (r || !PyErr_ExceptionMatches(PyExc_TypeError)) return r;
+    PyErr_Clear();
+    Py_RETURN_NOTIMPLEMENTED;
+}
+
+// ---- one bound call ---------------------------------------------------------------------
+
+// Converts the arguments of callable F, calls it once and converts its result, raising
+// the messages of the Python function `Name` with the spellings `Spell...` (argument 1 first).
+template <Text Name, auto F, Policy P, Text... Spell>
+struct Call {
+    static constexpr auto fn = callable<F>();
+    using Sig = Signature<std::remove_const_t<decltype(fn)>>;
+    using Ret = typename Sig::Ret;
+    using Params = typename Sig::Params;
+    static constexpr std::size_t arity = Params::size;
+    static_assert(sizeof...(Spell) == arity, "one type spelling per argument");
+
+    template <std::size_t I>
+    static constexpr auto spelling() {
+        return std::get<I>(std::make_tuple(Spell...));
+    }
+
+    template <class L>
+    struct Run;
+    template <class... A>
+    struct Run<List<A...>> {
+        template <std::size_t... I>
+        static PyObject *call(PyObject *const *argv, std::index_sequence<I...>) {
+            std::tuple<typename Arg<A>::Store...> v{};
+            // && folds left to right and stops at the first failure.
+            if (!(convert<I, A>(argv[I], std::get<I>(v)) && ...)) return nullptr;
+            if constexpr (P.result == Result::InPlace) {
+                // Only now that every argument converted does the incoming proxy give up ownership.
+                SWIG_Python_ConvertPtrAndOwn(argv[0], nullptr, descriptor_for<0>(), SWIG_POINTER_DISOWN);
+            }
+            if constexpr (std::is_void_v<Ret> && P.result != Result::InPlace) {
+                std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
+                Py_RETURN_NONE;
+            } else if constexpr (P.result == Result::New) {
+                auto *p = std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
+                PyObject *obj = SWIG_Python_NewPointerObj(p, descriptor<std::remove_pointer_t<Ret>>(), SWIG_POINTER_NEW);
+                if constexpr (P.take_ref == TakeRef::Count) p->ref();
+                if constexpr (P.take_ref == TakeRef::Group) osg::Group_reference(p);
+                return obj;
+            } else if constexpr (P.result == Result::InPlace) {
+                std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
+                return SWIG_Python_NewPointerObj(address(std::get<0>(v)), descriptor_for<0>(), SWIG_POINTER_OWN);
+            } else {
+                return to_python<Ret>(std::invoke(fn, Arg<A>::get(std::get<I>(v))...));
+            }
+        }
+
+        template <std::size_t I>
+        static swig_type_info *descriptor_for() {
+            using S = std::tuple_element_t<I, std::tuple<typename Arg<A>::Store...>>;
+            return descriptor<std::remove_pointer_t<S>>();
+        }
+
+        template <std::size_t I, class A1>
+        static bool convert(PyObject *o, typename Arg<A1>::Store &out) {
+            constexpr int flags = (I == 0 && P.result == Result::Disown) ? SWIG_POINTER_DISOWN : 0;
+            return Arg<A1>::template convert<ArgText<Name, I + 1, spelling<I>()>>(o, out, flags);
+        }
+
+        static bool test(PyObject *const *argv) {
+            return [&]<std::size_t... I>(std::index_sequence<I...>) {
+                return (Arg<A>::test(argv[I]) && ...);
+            }(std::index_sequence_for<A...>{});
+        }
+    };
+
+    static PyObject *call(PyObject *const *argv) {
+        return Run<Params>::call(argv, std::make_index_sequence<arity>{});
+    }
+    static bool test(PyObject *const *argv) { return Run<Params>::test(argv); }
+};
+
+// ---- calling conventions ---------------------------------------------------------------
+
+// A function without overloads: METH_NOARGS, METH_O or METH_VARARGS by its arity.
+template <Text Name, class C, Policy P>
+struct Single {
+    static constexpr std::size_t n = C::arity;
+    static constexpr int flags = n == 0 ? METH_NOARGS : n == 1 ? METH_O : METH_VARARGS;
+
+    static PyObject *finish(PyObject *r) {
+        if constexpr (P.not_implemented) return not_implemented(r);
+        return r;
+    }
+
+    static PyObject *wrapper(PyObject *, PyObject *args) {
+        if constexpr (n == 1) {
+            if (!args) return nullptr;
+            return finish(C::call(&args));
+        } else {
+            if (!args) {
+                if constexpr (n == 0) return finish(C::call(nullptr));
+                PyErr_Format(PyExc_TypeError, "%s expected %s%d arguments, got none", Static<Name>::c_str(), "", (int)n);
+                return finish(nullptr);
+            }
+            if (!PyTuple_Check(args)) {
+                PyErr_SetString(PyExc_SystemError, "UnpackTuple() argument list is not a tuple");
+                return finish(nullptr);
+            }
+            if (PyTuple_GET_SIZE(args) != (Py_ssize_t)n) {
+                PyErr_Format(PyExc_TypeError, "%s expected %s%d arguments, got %d", Static<Name>::c_str(), "", (int)n,
+                             (int)PyTuple_GET_SIZE(args));
+                return finish(nullptr);
+            }
+            return finish(C::call(&PyTuple_GET_ITEM(args, 0)));
+        }
+    }
+};
+
+// ---- overload dispatch ----------------------------------------------------------------
+
+// A candidate of a dispatcher: its prototype for the overload message, the callable and
+// its argument spellings. The dispatcher supplies the Python name and the policy.
+template <Text Proto, auto F, Text... Spell>
+struct Cand {
+    static constexpr auto proto = Proto;
+    template <Text Name, Policy P>
+    using bound = Call<Name, F, P, Spell...>;
+    using Params = typename Call<Text("?"), F, plain, Spell...>::Params;
+};
+
+// Whether a candidate with parameters A is tried before one with B of the same arity:
+// at the first parameter whose type differs, a wrapped class goes before a number.
+template <class A, class B>
+struct TriedBefore {
+    static constexpr bool value = false;
+};
+template <class... PA, class... PB>
+    requires(sizeof...(PA) == sizeof...(PB))
+struct TriedBefore<List<PA...>, List<PB...>> {
+    static constexpr bool value = [] {
+        const bool same[] = {true, std::is_same_v<PA, PB>...};
+        const Rank ra[] = {Rank::Class, Arg<PA>::rank...};
+        const Rank rb[] = {Rank::Class, Arg<PB>::rank...};
+        for (std::size_t i = 1; i <= sizeof...(PA); ++i) {
+            if (!same[i]) return ra[i] == Rank::Class && rb[i] == Rank::Other;
+        }
+        return false;
+    }();
+};
+
+// An explicit try order, for the few dispatchers whose order is not the ranked one.
+template <std::size_t... I>
+struct Order {};
+
+template <class... C>
+constexpr auto ranked_order() {
+    constexpr std::size_t n = sizeof...(C);
+    using P = std::tuple<typename C::Params...>;
+    std::array<std::size_t, n> order{};
+    for (std::size_t i = 0; i < n; ++i) order[i] = i;
+    auto before = [&]<std::size_t... I>(std::index_sequence<I...>) {
+        std::array<std::array<bool, n>, n> b{};
+        (([&]<std::size_t X>() {
+             ((b[X][I] = TriedBefore<std::tuple_element_t<X, P>, std::tuple_element_t<I, P>>::value), ...);
+         }.template operator()<I>()),
+         ...);
+        return b;
+    }(std::make_index_sequence<n>{});
+    // Stable insertion sort: equal ranks keep declaration order.
+    for (std::size_t i = 1; i < n; ++i) {
+        for (std::size_t j = i; j > 0 && before[order[j]][order[j - 1]]; --j) std::swap(order[j], order[j - 1]);
+    }
+    return order;
+}
+
+template <class... C, std::size_t... I>
+constexpr auto try_order(Order<I...>) {
+    if constexpr (sizeof...(I) == 0) {
+        return ranked_order<C...>();
+    } else {
+        static_assert(sizeof...(I) == sizeof...(C), "the try order names every candidate once");
+        return std::array<std::size_t, sizeof...(C)>{I...};
+    }
+}
+
+template <Text Name, Policy P, class TryOrder, class... C>
+struct Dispatch {
+    static constexpr std::size_t max_arity = std::max({C::template bound<Name, P>::arity...});
+    static constexpr auto message =
+        cat(Text("Wrong number or type of arguments for overloaded function '"), Name,
+            Text("'.\n  Possible C/C++ prototypes are:\n"), cat(Text("    "), C::proto, Text("\n"))...);
+    static constexpr int flags = METH_VARARGS;
+    static constexpr Policy candidate_policy{P.result, false, P.take_ref};
+    static constexpr auto order = try_order<C...>(TryOrder{});
+
+    template <std::size_t K>
+    static bool try_one(PyObject *const *argv, Py_ssize_t argc, PyObject *&result) {
+        using B = typename std::tuple_element_t<order[K], std::tuple<C...>>::template bound<Name, candidate_policy>;
+        if ((Py_ssize_t)B::arity != argc || !B::test(argv)) return false;
+        result = B::call(argv);
+        return true;
+    }
+
+    static PyObject *dispatch(PyObject *args) {
+        PyObject *argv[max_arity + 1] = {};
+        Py_ssize_t argc = SWIG_Python_UnpackTuple(args, Static<Name>::c_str(), 0, max_arity, argv);
+        if (argc) {
+            --argc;
+            PyObject *result = nullptr;
+            bool found = [&]<std::size_t... K>(std::index_sequence<K...>) {
+                return (try_one<K>(argv, argc, result) || ...);
+            }(std::make_index_sequence<sizeof...(C)>{});
+            if (found) return result;
+        }
+        SWIG_Python_RaiseOrModifyTypeError(message.v);
+        return nullptr;
+    }
+
+    static PyObject *wrapper(PyObject *, PyObject *args) {
+        if constexpr (P.not_implemented) return not_implemented(dispatch(args));
+        return dispatch(args);
+    }
+};
+
+// ---- rows -----------------------------------------------------------------------------
+
+using Row = PyMethodDef;
+
+template <class W, Text Name>
+constexpr Row row() {
+    return {Static<Name>::c_str(), W::wrapper, W::flags, nullptr};
+}
+
+// The last "::"-separated component of a qualified name: "osg::Vec3f" -> "Vec3f".
+template <Text Q>
+constexpr auto unqualified() {
+    constexpr std::size_t start = [] {
+        std::size_t s = 0;
+        for (std::size_t i = 0; i + 1 < Q.length; ++i)
+            if (Q.v[i] == ':' && Q.v[i + 1] == ':') s = i + 2;
+        return s;
+    }();
+    Text<Q.length - start + 1> out;
+    for (std::size_t i = start; i <= Q.length; ++i) out.v[i - start] = Q.v[i];
+    return out;
+}
+
+template <Text Qualified, bool Const, Text... Spell>
+constexpr auto prototype() {
+    if constexpr (Const) {
+        return cat(Qualified, Text("("), join<",">(Spell...), Text(") const"));
+    } else {
+        return cat(Qualified, Text("("), join<",">(Spell...), Text(")"));
+    }
+}
+
+template <class T, class... A>
+T *construct(A... a) {
+    return new T(std::forward<A>(a)...);
+}
+
+// Rows of free functions and static members, named in full.
+template <Text Name, auto F, Text... Spell>
+constexpr Row fn() {
+    return row<Single<Name, Call<Name, F, plain, Spell...>, plain>, Name>();
+}
+
+template <Text Name, class... C>
+constexpr Row overload() {
+    return row<Dispatch<Name, plain, Order<>, C...>, Name>();
+}
+
+// A candidate free function, e.g. fc<"osg::notify", F, "osg::NotifySeverity const">.
+template <Text Qualified, auto F, Text... Spell>
+using fc = Cand<prototype<Qualified, false, Spell...>(), F, Spell...>;
+
+// Rows of one wrapped class T, spelled `Spelling` in messages, whose Python names are
+// "<Prefix>_<suffix>". Argument 1 of a member is spelled "<Spelling> *", or
+// "<Spelling> const *" for a const member.
+template <class T, Text Spelling, Text Prefix>
+struct Class {
+    template <Text Suffix>
+    static constexpr auto name = cat(Prefix, Text("_"), Suffix);
+    static constexpr auto new_name = cat(Text("new_"), Prefix);
+    static constexpr auto delete_name = cat(Text("delete_"), Prefix);
+
+    template <auto F>
+    static constexpr bool const_self =
+        std::is_const_v<std::remove_pointer_t<typename Signature<std::remove_const_t<decltype(callable<F>())>>::Params::First>>;
+
+    template <auto F>
+    static constexpr auto self() {
+        if constexpr (const_self<F>) {
+            return cat(Spelling, Text(" const *"));
+        } else {
+            return cat(Spelling, Text(" *"));
+        }
+    }
+
+    template <Text Suffix, auto F, Policy P, Text... Spell>
+    static constexpr Row single() {
+        return row<Single<name<Suffix>, Call<name<Suffix>, F, P, self<F>(), Spell...>, P>, name<Suffix>>();
+    }
+
+    // One member (or a callable whose argument 1 is the object).
+    template <Text Suffix, auto F, Text... Spell>
+    static constexpr Row fn() { return single<Suffix, F, plain, Spell...>(); }
+    // A binary operator: mismatched arguments answer NotImplemented.
+    template <Text Suffix, auto F, Text... Spell>
+    static constexpr Row op() { return single<Suffix, F, binary_op, Spell...>(); }
+    // An in-place operator: ownership moves from argument 1 to the result.
+    template <Text Suffix, auto F, Text... Spell>
+    static constexpr Row inplace() { return single<Suffix, F, in_place, Spell...>(); }
+    // A static member: no object argument.
+    template <Text Suffix, auto F, Text... Spell>
+    static constexpr Row static_fn() {
+        return row<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>>();
+    }
+    // delete_<Prefix>: argument 1 disowned, then the action.
+    template <auto Action>
+    static constexpr Row dtor() {
+        return row<Single<delete_name, Call<delete_name, Action, disown, cat(Spelling, Text(" *"))>, disown>,
+                   delete_name>();
+    }
+
+    static void unref_object(T *p) { p->unref(); }
+    static void delete_object(T *p) { delete p; }
+    // delete_<Prefix> for a reference-counted class: one unref().
+    static constexpr Row dtor_unref() { return dtor<unref_object>(); }
+    // delete_<Prefix> for a plain value: delete.
+    static constexpr Row dtor_delete() { return dtor<delete_object>(); }
+
+    // A candidate member named `Member` in the prototype.
+    template <Text Member, auto F, Text... Spell>
+    using m = Cand<prototype<cat(Spelling, Text("::"), Member), const_self<F>, Spell...>(), F, self<F>(), Spell...>;
+    // A candidate constructor taking A..., spelled Spell...
+    template <class... A>
+    struct with {
+        template <Text... Spell>
+        using c = Cand<prototype<cat(Spelling, Text("::"), unqualified<Spelling>()), false, Spell...>(), &construct<T, A...>,
+                       Spell...>;
+    };
+
+    template <Text Suffix, class... C>
+    static constexpr Row overload() {
+        return row<Dispatch<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
+    }
+    // A const/non-const accessor pair; the non-const member, listed first, is always taken.
+    template <Text Member, auto NonConst, auto Const>
+    static constexpr Row pair() {
+        return overload<Member, m<Member, NonConst>, m<Member, Const>>();
+    }
+    template <Text Suffix, class... C>
+    static constexpr Row overload_op() {
+        return row<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>>();
+    }
+    template <Text Suffix, class... C>
+    static constexpr Row overload_inplace() {
+        return row<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>>();
+    }
+    template <Text Suffix, class TryOrder, class... C>
+    static constexpr Row overload_ordered() {
+        return row<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>>();
+    }
+
+    // new_<Prefix>: one constructor, or a dispatcher over several.
+    template <TakeRef R, class... C>
+    static constexpr Row ctor() {
+        constexpr Policy p{Result::New, false, R};
+        if constexpr (sizeof...(C) == 1) {
+            return row<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name>();
+        } else {
+            return row<Dispatch<new_name, p, Order<>, C...>, new_name>();
+        }
+    }
+};
+
+}  // namespace wrap

@@ -1,0 +1,24 @@
+// A family's binding rows are appended to the module's method table in table order.
+#pragma once
+#include "wrap/engine.h"
+#include "wrap/hooks.h"
+
+#include <initializer_list>
+#include <vector>
+
+namespace wrap {
+
+using Table = std::vector<Row>;
+
+inline void add(Table &t, std::initializer_list<Row> rows) { t.insert(t.end(), rows); }
+
+}  // namespace wrap
+
+// The families, in the order their rows appear in the method table.
+void add_referenced_rows(wrap::Table &t);
+void add_copyop_rows(wrap::Table &t);
+void add_vector_rows(wrap::Table &t);
+void add_quat_rows(wrap::Table &t);
+void add_notify_rows(wrap::Table &t);
+void add_object_rows(wrap::Table &t);
+void add_dummy_object_rows(wrap::Table &t);
