@@ -54,7 +54,7 @@ in_root() {
     fi
     unshare -m --propagation private sh -c "$binds && exec chroot '$ROOT' /usr/bin/env -i \
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
-        CI='${CI:-}' PYTHONDONTWRITEBYTECODE=1 bash -c \"\$0\"" "$1"
+        CI='${CI:-}' BUILD_DIR='${BUILD_DIR:-}' BUILD_TYPE='${BUILD_TYPE:-}' OSG_BUILD_DIR='${OSG_BUILD_DIR:-}' PYTHONDONTWRITEBYTECODE=1 bash -c \"\$0\"" "$1"
 }
 
 provision() {

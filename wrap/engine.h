@@ -3,9 +3,9 @@
 // calling convention, arity checks and every message) is derived at compile time.
 //
 //   using K = Class<osg::Vec3f, "osg::Vec3f", "Vec3f">;
-//   K::fn<"length", &osg::Vec3f::length>()                        -> Vec3f_length
-//   K::fn<"__add__", &osg::Vec3f::operator+, "osg::Vec3f const &">(binary_op)
-//   K::overload<"x", K::m<"x", Nonconst<&V::x>>, K::m<"x", Const<&V::x>>>()
+//   K::fn<"length", &osg::Vec3f::length>()                 -> Vec3f_length
+//   K::inplace<"__iadd__", &V::operator+=, "osg::Vec3f const &">()
+//   K::pair<"x", Ref(&V::x), Val(&V::x)>()                 -> dispatcher Vec3f_x
 //
 // See wrap/README.md for the concepts.
 #pragma once
