@@ -144,7 +144,7 @@ def test_ref_matrix_converts_to_its_matrix_part(which):
 
 @pytest.mark.parametrize("query,found", [
     ("_p_char", "_p_char"), ("osg::Matrix*", "_p_osg__Matrixd"), ("osg::Matrixd *", "_p_osg__Matrixd"),
-    ("  osg :: Vec3 *", "_p_osg__Vec3f"), ("GLenum *", "_p_GLenum"), ("std::vector<osg::Node*>*", "_p_std__vectorT_osg__Node_p_t"),
+    ("  osg :: Vec3 *", "_p_osg__Vec3f"), ("osg::Matrix* ", "_p_osg__Matrixd"), ("osg::Matrix *  ", "_p_osg__Matrixd"), ("GLenum *", "_p_GLenum"), ("std::vector<osg::Node*>*", "_p_std__vectorT_osg__Node_p_t"),
     ("peer::Widget *", "_p_peer__Widget"), ("osg::Nothing *", None), ("osg::Matrix", None)])
 def test_type_query(query, found):
     assert peer.type_query(query) == found
@@ -163,4 +163,5 @@ def test_type_query_is_served_from_its_cache():
     finally:
         runtime.type_pointer_capsule = capsule
     assert peer.type_query("osg::Quat *") == "_p_osg__Quat"
+    assert peer.type_query("osg::Nothing *") is None
     assert "osg::Quat *" in peer.type_cache() and "osg::Nothing *" not in peer.type_cache()
