@@ -67,6 +67,14 @@ def test_append_and_next(raises_exactly):
     assert sys.getrefcount(chain[0]) == base[0]
 
 
+def test_dropped_objects_release_their_type():
+    kinds = [type(pointer(0x10)), type(peer.packed(b"x", PLAIN))]
+    before = [sys.getrefcount(t) for t in kinds]
+    for _ in range(100):
+        pointer(0x10), peer.packed(b"x", PLAIN)
+    assert [sys.getrefcount(t) for t in kinds] == before
+
+
 @pytest.mark.parametrize("size", [1, 511, 512])
 def test_packed_text(size):
     data = bytes((i * 37 + 5) % 256 for i in range(size))
