@@ -23,14 +23,9 @@ SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
 
 int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags) {
     if (!obj) return SWIG_ERROR;
-    if (obj == Py_None) {
-        if (flags & SWIG_POINTER_NO_NULL) {
-            if (ptr) *ptr = nullptr;
-            return SWIG_NullReferenceError;
-        }
-        if (ptr) *ptr = nullptr;
-        return SWIG_OK;
-    }
+    // None: the general form leaves the out-pointer as the caller set it; the fixed
+    // forms (swigrt.h) store null themselves.
+    if (obj == Py_None) return (flags & SWIG_POINTER_NO_NULL) ? SWIG_NullReferenceError : SWIG_OK;
     SwigPyObject *sobj = SWIG_Python_GetSwigThis(obj);
     while (sobj) {
         void *vptr = sobj->ptr;

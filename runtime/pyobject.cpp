@@ -99,6 +99,7 @@ static PyObject *SwigPyObject_next(PyObject *v, PyObject *) {
 
 static void SwigPyObject_dealloc(PyObject *v) {
     auto *sobj = (SwigPyObject *)v;
+    PyTypeObject *tp = Py_TYPE(v);
     PyObject *next = sobj->next;
     if (sobj->own == SWIG_POINTER_OWN) {
         swig_type_info *ty = sobj->ty;
@@ -134,6 +135,7 @@ static void SwigPyObject_dealloc(PyObject *v) {
     }
     Py_XDECREF(next);
     PyObject_Free(v);
+    Py_DECREF(tp);  // every instance of a heap type holds a reference to it
 }
 
 static PyMethodDef swigobject_methods[] = {
@@ -210,8 +212,10 @@ static PyObject *SwigPyPacked_str(PyObject *o) {
 }
 
 static void SwigPyPacked_dealloc(PyObject *v) {
+    PyTypeObject *tp = Py_TYPE(v);
     if (SwigPyPacked_Check(v)) std::free(((SwigPyPacked *)v)->pack);
     PyObject_Free(v);
+    Py_DECREF(tp);
 }
 
 static PyType_Slot swigpacked_slots[] = {
@@ -251,6 +255,7 @@ PyObject *SwigPyPacked_New(void *ptr, size_t size, swig_type_info *ty) {
     void *pack = std::malloc(size);
     if (!pack) {
         PyObject_Free(sobj);
+        Py_DECREF(SwigPyPacked_type());
         return nullptr;
     }
     std::memcpy(pack, ptr, size);

@@ -155,10 +155,20 @@ PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_t
 inline int SWIG_CheckPtr(PyObject *obj, swig_type_info *ty) {
     return SWIG_Python_ConvertPtrAndOwn(obj, nullptr, ty, SWIG_POINTER_NO_NULL);
 }
+// Pointer arguments that accept None: None stores null and succeeds.
 inline int SWIG_ConvertPtr(PyObject *obj, void **ptr, swig_type_info *ty) {
+    if (obj == Py_None) {
+        if (ptr) *ptr = nullptr;
+        return SWIG_OK;
+    }
     return SWIG_Python_ConvertPtrAndOwn(obj, ptr, ty, 0);
 }
+// Reference arguments: None stores null and fails with SWIG_NullReferenceError.
 inline int SWIG_ConvertPtrNonNull(PyObject *obj, void **ptr, swig_type_info *ty) {
+    if (obj == Py_None) {
+        if (ptr) *ptr = nullptr;
+        return SWIG_NullReferenceError;
+    }
     return SWIG_Python_ConvertPtrAndOwn(obj, ptr, ty, SWIG_POINTER_NO_NULL);
 }
 

@@ -67,14 +67,15 @@ swig_type_info *SWIG_MangledTypeQueryModule(swig_module_info *start, swig_module
     return nullptr;
 }
 
-// Compares one '|'-separated alternative [f1, l1) with [f2, l2), skipping blanks.
+// Compares one '|'-separated alternative [f1, l1) with [f2, l2) as if every blank of
+// both were removed (trailing blanks included).
 static int type_name_compare(const char *f1, const char *l1, const char *f2, const char *l2) {
-    for (; f1 != l1 && f2 != l2; ++f1, ++f2) {
-        while (*f1 == ' ' && f1 != l1) ++f1;
-        while (*f2 == ' ' && f2 != l2) ++f2;
+    for (;; ++f1, ++f2) {
+        while (f1 != l1 && *f1 == ' ') ++f1;
+        while (f2 != l2 && *f2 == ' ') ++f2;
+        if (f1 == l1 || f2 == l2) return (int)(f1 != l1) - (int)(f2 != l2);
         if (*f1 != *f2) return (*f1 > *f2) ? 1 : -1;
     }
-    return (int)((l1 - f1) - (l2 - f2));
 }
 
 static bool type_equiv(const char *nb, const char *tb) {

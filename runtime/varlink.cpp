@@ -75,7 +75,11 @@ static int swig_varlink_setattr(PyObject *o, char *n, PyObject *p) {
             break;
         }
     }
-    if (res == 1 && !PyErr_Occurred()) PyErr_Format(PyExc_AttributeError, "Unknown C global variable '%s'", n);
+    if (res == 1) {
+        if (!PyErr_Occurred()) PyErr_Format(PyExc_AttributeError, "Unknown C global variable '%s'", n);
+        // The interpreter reads only a negative result as an error (delattr() checks < 0).
+        return -1;
+    }
     return res;
 }
 

@@ -3,6 +3,8 @@
 // and exposes the shared runtime's internals that Python cannot otherwise see.
 #include "runtime/swigrt.h"
 
+#include <osg/Matrixd>
+#include <osg/Matrixf>
 #include <osg/Node>
 #include <osg/Vec3f>
 #include <string>
@@ -201,6 +203,32 @@ PyObject *convert(PyObject *, PyObject *args) {
     return Py_BuildValue("(iNO)", status, addr, pending ? Py_True : Py_False);
 }
 
+// convert_form(obj, name, form): the fixed forms the wrappers use; form is "check", "plain"
+// or "nonnull". Returns (status, address or None when the out-pointer was left alone).
+PyObject *convert_form(PyObject *, PyObject *args) {
+    PyObject *obj;
+    const char *name, *form;
+    if (!PyArg_ParseTuple(args, "Oss", &obj, &name, &form)) return nullptr;
+    swig_type_info *t = find_or_raise(name);
+    if (!t) return nullptr;
+    void *p = (void *)(uintptr_t)0xdead;
+    int status = form[0] == 'c'   ? SWIG_CheckPtr(obj, t)
+                 : form[0] == 'p' ? SWIG_ConvertPtr(obj, &p, t)
+                                  : SWIG_ConvertPtrNonNull(obj, &p, t);
+    PyObject *addr = p == (void *)(uintptr_t)0xdead ? Py_NewRef(Py_None) : PyLong_FromVoidPtr(p);
+    return Py_BuildValue("(iN)", status, addr);
+}
+
+// The compiler's offsets of the matrix base inside the reference-counted matrices.
+PyObject *matrix_offsets(PyObject *, PyObject *) {
+    alignas(osg::RefMatrixd) static char d[sizeof(osg::RefMatrixd)];
+    alignas(osg::RefMatrixf) static char f[sizeof(osg::RefMatrixf)];
+    auto off = [](auto *derived, auto *base) { return (long)((char *)base - (char *)derived); };
+    auto *rd = reinterpret_cast<osg::RefMatrixd *>(d);
+    auto *rf = reinterpret_cast<osg::RefMatrixf *>(f);
+    return Py_BuildValue("(ll)", off(rd, static_cast<osg::Matrixd *>(rd)), off(rf, static_cast<osg::Matrixf *>(rf)));
+}
+
 PyObject *new_pointer(PyObject *, PyObject *args) {
     unsigned long long address;
     const char *name;
@@ -299,6 +327,8 @@ PyMethodDef methods[] = {
     {"clientdata_class", clientdata_class, METH_O, nullptr},
     {"destroy_module", destroy_module, METH_NOARGS, nullptr},
     {"convert", convert, METH_VARARGS, nullptr},
+    {"convert_form", convert_form, METH_VARARGS, nullptr},
+    {"matrix_offsets", matrix_offsets, METH_NOARGS, nullptr},
     {"new_pointer", new_pointer, METH_VARARGS, nullptr},
     {"packed", packed, METH_VARARGS, nullptr},
     {"as_long", as_long, METH_O, nullptr},

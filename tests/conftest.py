@@ -1,0 +1,39 @@
+import os
+import subprocess
+import sys
+import textwrap
+
+import pytest
+
+BUILD_DIR = os.path.abspath(
+    os.environ.get("OSG_BUILD_DIR") or os.path.join(os.path.dirname(__file__), os.pardir, "build"))
+sys.path.insert(0, BUILD_DIR)
+
+# _osg first, so that in this process the shared type records are _osg's and the
+# sibling _osgpeer joins its ring. Load-order cases run in fresh interpreters.
+import _osg  # noqa: E402,F401
+import _osgpeer  # noqa: E402,F401
+
+
+@pytest.fixture
+def run_py():
+    """Runs a snippet in a fresh interpreter with this sys.path; returns (stdout, stderr)."""
+    def run(code):
+        prelude = f"import sys\nsys.path[:] = {sys.path!r}\n"
+        proc = subprocess.run([sys.executable, "-c", prelude + textwrap.dedent(code)],
+                              capture_output=True, text=True, timeout=120)
+        assert proc.returncode == 0, proc.stderr
+        return proc.stdout, proc.stderr
+    return run
+
+
+@pytest.fixture
+def raises_exactly():
+    """Calls fn(*args) and checks the exception's exact class and text."""
+    def check(exc_type, message, fn, *args):
+        with pytest.raises(exc_type) as info:
+            fn(*args)
+        got = (type(info.value), str(info.value))
+        del info  # its traceback holds this frame: no cycle may keep fn's arguments alive
+        assert got == (exc_type, message)
+    return check

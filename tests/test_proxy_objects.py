@@ -1,0 +1,147 @@
+import sys
+
+import pytest
+
+import _osg
+import _osgpeer as peer
+
+PLAIN = "_p_osg__Matrixd"  # never registered in this process: pointers of it stay bare
+
+
+def pointer(address, name=PLAIN, own=0):
+    return peer.new_pointer(address, name, own)
+
+
+def test_proxy_types():
+    obj, packed = type(pointer(0x10)), type(peer.packed(b"x", PLAIN))
+    for t, name, base in ((obj, "SwigPyObject", True), (packed, "SwigPyPacked", False)):
+        assert f"{t.__module__}.{t.__qualname__}" == f"swig_runtime_data4.{name}"
+        assert t.__doc__ == "Swig object carries a C/C++ instance pointer"
+        assert bool(t.__flags__ & 1024) is base  # subclassable or not
+    # Each module builds its own type; they meet by name.
+    assert type(_osg.cvar.X_AXIS) is not obj and type(_osg.cvar.X_AXIS).__name__ == "SwigPyObject"
+
+
+def test_repr_shows_last_spelling_and_the_chain():
+    first, second = pointer(0x10), pointer(0x20, "_p_osg__Node")
+    head = f"<Swig Object of type 'osg::Matrixd *' at {hex(id(first))}>"
+    assert repr(first) == first.__repr__() == head
+    first.append(second)
+    assert repr(first) == head + f"<Swig Object of type 'osg::Node *' at {hex(id(second))}>"
+
+
+def test_compare_by_pointer_only():
+    a, same, other = pointer(0x30), pointer(0x30, "_p_osg__Node"), pointer(0x40)
+    assert (a == same, a != same, a == other, a != other) == (True, False, False, True)
+    with pytest.raises(TypeError):
+        a < same
+    assert (int(a), int(other)) == (0x30, 0x40)  # int() gives the C++ address
+
+
+def test_ownership_flag(raises_exactly):
+    p = pointer(0x50)
+    assert p.own() is False
+    assert (p.own(1), p.own()) == (False, True)
+    assert (p.own(0), p.own()) == (True, False)
+    assert (p.acquire(), p.own()) == (None, True)
+    assert (p.disown(), p.own()) == (None, False)
+    assert (p.own("yes"), p.own([]), p.own()) == (False, True, False)
+    raises_exactly(TypeError, "own expected at most 1 argument, got 2", p.own, 1, 2)
+
+
+def test_append_and_next(raises_exactly):
+    chain = [pointer(0x1000), pointer(0x2000), pointer(0x3000)]
+    p, q, r = chain
+    base = [sys.getrefcount(chain[i]) for i in (1, 2)]
+    assert p.next() is None
+    appended = p.append(q)
+    held = sys.getrefcount(chain[1])  # outside the asserts, whose rewriting keeps temporaries
+    assert (appended, p.next(), held) == (None, q, base[0] + 1)
+    p.append(r)  # goes right after p
+    assert (p.next(), r.next(), q.next()) == (r, q, None)
+    raises_exactly(TypeError, "Attempt to append a non SwigPyObject", p.append, object())
+    raises_exactly(TypeError, "Attempt to append a non SwigPyObject", p.append, peer.packed(b"x", PLAIN))
+    del p, chain[0]  # chain is now [q, r]
+    assert sys.getrefcount(chain[1]) == base[1]
+    del r, chain[1]
+    assert sys.getrefcount(chain[0]) == base[0]
+
+
+def test_dropped_objects_release_their_type():
+    kinds = [type(pointer(0x10)), type(peer.packed(b"x", PLAIN))]
+    before = [sys.getrefcount(t) for t in kinds]
+    for _ in range(100):
+        pointer(0x10), peer.packed(b"x", PLAIN)
+    assert [sys.getrefcount(t) for t in kinds] == before
+
+
+@pytest.mark.parametrize("size", [1, 511, 512])
+def test_packed_text(size):
+    data = bytes((i * 37 + 5) % 256 for i in range(size))
+    packed = peer.packed(data, "_p_osg__Vec3f")
+    if size < 512:  # 2 * size + 2 <= 1024: the digits are shown
+        assert repr(packed) == f"<Swig Packed at _{data.hex()}_p_osg__Vec3f>"
+        assert str(packed) == f"_{data.hex()}_p_osg__Vec3f"
+    else:
+        assert (repr(packed), str(packed)) == ("<Swig Packed _p_osg__Vec3f>", "_p_osg__Vec3f")
+
+
+@pytest.mark.parametrize("register,destroy,delargs", [
+    (_osg.ClipPlane_swigregister, None, 0), (_osg.ColorMask_swigregister, lambda obj: None, 1),
+    (_osg.Viewport_swigregister, id, 0), (_osg.DummyObject_swigregister, getattr, 1)])
+def test_destroy_calling_convention(register, destroy, delargs):
+    klass = type("K", (), {} if destroy is None else {"__swig_destroy__": staticmethod(destroy)})
+    register(klass)
+    name = "_p_osg__" + register.__name__.split("_")[0]
+    assert peer.clientdata_class(name) == (klass, delargs)
+
+
+def test_destroy_gets_a_non_owning_temporary():
+    seen = []
+
+    class Quat:
+        @staticmethod
+        def __swig_destroy__(obj):
+            seen.append((type(obj).__name__, int(obj), obj.own(), obj.next(), id(obj)))
+
+    _osg.Quat_swigregister(Quat)
+    borrowed = peer.new_pointer(0x7100, "_p_osg__Quat", 0)
+    inst = peer.new_pointer(0x7000, "_p_osg__Quat", 1)
+    assert type(inst) is Quat and inst.this.own() is True
+    inst.this.append(pointer(0x7200))
+    this_id = id(inst.this)
+    del borrowed, inst
+    assert [row[:4] for row in seen] == [("SwigPyObject", 0x7000, False, None)]
+    assert seen[0][4] != this_id
+
+
+def test_destroy_errors_are_unraisable_and_keep_the_pending_exception(monkeypatch):
+    reports = []
+    monkeypatch.setattr(sys, "unraisablehook", reports.append)
+
+    def destroy(obj):
+        raise ValueError("destroy failed")
+
+    _osg.Fog_swigregister(type("Fog", (), {"__swig_destroy__": staticmethod(destroy)}))
+    # The failed unpacking drops the list, and with it the owning proxy, while its error is set.
+    with pytest.raises(ValueError, match="^not enough values to unpack"):
+        a, b = [peer.new_pointer(0x9000, "_p_osg__Fog", 1)]
+    assert [(type(r.exc_value), str(r.exc_value), r.object) for r in reports] == \
+        [(ValueError, "destroy failed", destroy)]
+
+
+def test_leak_message_for_owned_pointer_without_destroy(run_py):
+    out, err = run_py("""
+        import _osgpeer, _osg
+        class Matrixd: pass
+        _osg.Matrixd_swigregister(Matrixd)
+        m = _osgpeer.new_pointer(0x1000, "_p_osg__Matrixd", 1)
+        assert type(m) is Matrixd and m.this.own()
+        del m
+        _osgpeer.new_pointer(0x2000, "_p_peer__Widget", 1)  # unregistered, dropped at once
+        _osgpeer.new_pointer(0x3000, "_p_peer__Widget", 0)  # not owned: nothing to report
+        """)
+    message = "swig/python detected a memory leak of type '{}', no destructor found.\n"
+    assert out.count(message.format("osg::Matrixd *")) == 1
+    assert out.count(message.format("peer::Widget *")) == 1
+    assert out.count("memory leak") == 2 and "memory leak" not in err
