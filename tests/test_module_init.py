@@ -83,10 +83,11 @@ def test_shared_capsule_is_published():
     assert '"swig_runtime_data4.type_pointer_capsule"' in repr(capsule)
 
 
-def test_function_table_holds_exactly_the_class_hooks():
-    functions = [k for k, v in vars(_osg).items() if isinstance(v, types.BuiltinFunctionType)]
+def test_function_table_holds_every_class_hook():
+    functions = {k for k, v in vars(_osg).items() if isinstance(v, types.BuiltinFunctionType)}
     assert (len(REGISTER_ROWS), len(INIT_ROWS)) == (37, 34)
-    assert sorted(functions) == sorted(REGISTER_ROWS + INIT_ROWS)
+    hooks = {f for f in functions if f.endswith(("_swigregister", "_swiginit"))}
+    assert hooks == set(REGISTER_ROWS + INIT_ROWS)
 
 
 @pytest.mark.parametrize("name", REGISTER_ROWS)
