@@ -2,7 +2,7 @@
 import os
 import sys
 
-sys.path.insert(0, os.environ.get("OSG_BUILD_DIR", os.path.join(os.path.dirname(__file__), "..", "build")))
+sys.path.insert(0, os.environ.get("OSG_BUILD_DIR") or os.path.join(os.path.dirname(__file__), "..", "build"))
 
 import _osg  # noqa: E402
 
