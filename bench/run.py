@@ -17,7 +17,7 @@ import statistics
 import sys
 import time
 
-sys.path.insert(0, os.environ.get("OSG_BUILD_DIR", os.path.join(os.path.dirname(__file__), "..", "build")))
+sys.path.insert(0, os.environ.get("OSG_BUILD_DIR") or os.path.join(os.path.dirname(__file__), "..", "build"))
 
 import _floor  # noqa: E402
 import _osg  # noqa: E402

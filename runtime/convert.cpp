@@ -3,15 +3,17 @@
 #include <cstdlib>
 
 PyObject *SWIG_This() {
-    if (!Swig_This_global) Swig_This_global = PyUnicode_FromString("this");
+    // Interned, so attribute lookups by it compare pointers.
+    if (!Swig_This_global) Swig_This_global = PyUnicode_InternFromString("this");
     return Swig_This_global;
 }
 
 SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
     // A proxy whose `this` is itself a proxy is followed down to the pointer object.
     while (!SwigPyObject_Check(pyobj)) {
-        PyObject *obj = PyObject_GetAttr(pyobj, SWIG_This());
-        if (!obj) {
+        PyObject *obj = nullptr;
+        // The optional lookup spares building an AttributeError for every number a dispatcher tests.
+        if (PyObject_GetOptionalAttr(pyobj, SWIG_This(), &obj) <= 0) {
             PyErr_Clear();
             return nullptr;
         }

@@ -21,14 +21,13 @@ char *SWIG_PackData(char *c, const void *ptr, size_t sz) {
 
 // ---- SwigPyObject -------------------------------------------------------------
 
-static bool has_type_name(PyObject *op, PyTypeObject *own, const char *name) {
+int SwigPyObject_Check(PyObject *op) {
     PyTypeObject *t = Py_TYPE(op);
-    return t == own || std::strcmp(t->tp_name, name) == 0;
+    if (t == SwigPyObject_type()) return 1;
+    // Anything smaller than a pointer object (every ordinary proxy instance) cannot be one.
+    return t->tp_basicsize >= (Py_ssize_t)sizeof(SwigPyObject) && std::strcmp(t->tp_name, "swig_runtime_data4.SwigPyObject") == 0;
 }
 
-int SwigPyObject_Check(PyObject *op) {
-    return has_type_name(op, SwigPyObject_type(), "swig_runtime_data4.SwigPyObject");
-}
 
 static PyObject *SwigPyObject_repr(PyObject *o) {
     auto *v = (SwigPyObject *)o;
