@@ -1,5 +1,6 @@
 """Overload dispatch: prototype lists, the count message composed with them, and which
 candidate a call reaches."""
+import ctypes
 import math
 import re
 
@@ -67,9 +68,10 @@ def test_vector_constructors(mk):
 
 
 def test_set_name_routes_str_none_and_string_proxies(mk):
-    d = mk.DummyObject()
+    d, text = mk.DummyObject(), ctypes.create_string_buffer(b"from char *")
+    chars = _osgpeer.new_pointer(ctypes.addressof(text), "_p_char", 0)
     for name, expected in [("from str", "from str"), (_osgpeer.string_ptr(0, "from std::string"), "from std::string"),
-                           (None, "")]:  # None is a null C string, never a null std::string reference
+                           (chars, "from char *"), (None, "")]:  # None: a null C string, never a null std::string
         _osg.Object_setName(d, name)
         assert _osgpeer.read_string(_osg.Object_getName(d)) == expected
 

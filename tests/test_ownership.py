@@ -36,11 +36,15 @@ def test_reference_counts(mk):
                                         ("StandardNotifyHandler", "StandardNotifyHandler"),
                                         ("StandardNotifyHandler", "NotifyHandler")])
 def test_delete_by_hand_disowns_and_drops_one_reference(new, delete):
-    p = getattr(_osg, f"new_{new}")()
-    _osg.intrusive_ptr_add_ref(p)  # keeps the object alive past the delete
-    assert getattr(_osg, f"delete_{delete}")(p) is None
-    assert p.own() is False and _osg.Referenced_referenceCount(p) == 1
-    _osg.intrusive_ptr_release(p)  # deletes it
+    objects = [getattr(_osg, f"new_{new}")() for _ in range(500)]
+    for p in objects:
+        _osg.intrusive_ptr_add_ref(p)  # keeps the object alive past the delete
+        assert getattr(_osg, f"delete_{delete}")(p) is None
+        assert p.own() is False and _osg.Referenced_referenceCount(p) == 1
+    before = heap_bytes()
+    for p in objects:
+        _osg.intrusive_ptr_release(p)  # the last reference: the object is deleted
+    assert before - heap_bytes() > 500 * 16
 
 
 @pytest.mark.parametrize("cls", VECTORS + ["Quat", "CopyOp"])
