@@ -79,8 +79,8 @@ def test_registered_non_class_is_instantiated_through_its_new():
     calls = []
     factory = types.SimpleNamespace()
     factory.__new__ = lambda klass: calls.append(klass) or types.SimpleNamespace()
-    _osg.CopyOp_swigregister(factory)
-    inst = peer.new_pointer(0xE000, "_p_osg__CopyOp", 0)
+    _osg.Texture2D_swigregister(factory)
+    inst = peer.new_pointer(0xE000, "_p_osg__Texture2D", 0)
     assert calls == [factory] and int(inst.this) == 0xE000
 
 

@@ -88,7 +88,7 @@ def test_packed_text(size):
 
 @pytest.mark.parametrize("register,destroy,delargs", [
     (_osg.ClipPlane_swigregister, None, 0), (_osg.ColorMask_swigregister, lambda obj: None, 1),
-    (_osg.Viewport_swigregister, id, 0), (_osg.DummyObject_swigregister, getattr, 1)])
+    (_osg.Viewport_swigregister, id, 0), (_osg.Switch_swigregister, getattr, 1)])
 def test_destroy_calling_convention(register, destroy, delargs):
     klass = type("K", (), {} if destroy is None else {"__swig_destroy__": staticmethod(destroy)})
     register(klass)
@@ -99,15 +99,15 @@ def test_destroy_calling_convention(register, destroy, delargs):
 def test_destroy_gets_a_non_owning_temporary():
     seen = []
 
-    class Quat:
+    class Geode:
         @staticmethod
         def __swig_destroy__(obj):
             seen.append((type(obj).__name__, int(obj), obj.own(), obj.next(), id(obj)))
 
-    _osg.Quat_swigregister(Quat)
-    borrowed = peer.new_pointer(0x7100, "_p_osg__Quat", 0)
-    inst = peer.new_pointer(0x7000, "_p_osg__Quat", 1)
-    assert type(inst) is Quat and inst.this.own() is True
+    _osg.Geode_swigregister(Geode)
+    borrowed = peer.new_pointer(0x7100, "_p_osg__Geode", 0)
+    inst = peer.new_pointer(0x7000, "_p_osg__Geode", 1)
+    assert type(inst) is Geode and inst.this.own() is True
     inst.this.append(pointer(0x7200))
     this_id = id(inst.this)
     del borrowed, inst

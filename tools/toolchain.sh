@@ -52,9 +52,14 @@ in_root() {
     if [ -e /etc/resolv.conf ]; then
         binds="$binds && cp -L /etc/resolv.conf '$ROOT/etc/resolv.conf' 2>/dev/null; true"
     fi
+    # Only the settings the project reads cross into the root, and only when set.
+    local pass="" v
+    for v in CI BUILD_DIR BUILD_TYPE OSG_BUILD_DIR; do
+        [ -n "${!v:-}" ] && pass="$pass $v='${!v}'"
+    done
     unshare -m --propagation private sh -c "$binds && exec chroot '$ROOT' /usr/bin/env -i \
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
-        CI='${CI:-}' BUILD_DIR='${BUILD_DIR:-}' BUILD_TYPE='${BUILD_TYPE:-}' OSG_BUILD_DIR='${OSG_BUILD_DIR:-}' PYTHONDONTWRITEBYTECODE=1 bash -c \"\$0\"" "$1"
+        PYTHONDONTWRITEBYTECODE=1 $pass bash -c \"\$0\"" "$1"
 }
 
 provision() {
