@@ -65,14 +65,23 @@ def loop_empty(n, f=None, a=None):
         pass
 
 
-def loop_meth_o(n, f=_floor.meth_o, a=v):
-    for _ in repeat(None, n):
-        f(a)
+def one_arg(fn, arg):
+    """A loop calling fn(arg), with both bound as locals so lookups do not count."""
+    def loop(n, f=fn, a=arg):
+        for _ in repeat(None, n):
+            f(a)
+    return loop
 
 
-def loop_varargs2(n, f=_floor.varargs2, a=v, b=w):
-    for _ in repeat(None, n):
-        f(a, b)
+def two_args(fn, arg1, arg2):
+    def loop(n, f=fn, a=arg1, b=arg2):
+        for _ in repeat(None, n):
+            f(a, b)
+    return loop
+
+
+loop_meth_o = one_arg(_floor.meth_o, v)
+loop_varargs2 = two_args(_floor.varargs2, v, w)
 
 
 def loop_raise_floor(n, f=_floor.varargs2, a=v, E=TypeError):
@@ -83,19 +92,9 @@ def loop_raise_floor(n, f=_floor.varargs2, a=v, E=TypeError):
             pass
 
 
-def loop_length_bare(n, f=_osg.Vec3f_length, a=v):
-    for _ in repeat(None, n):
-        f(a)
-
-
-def loop_length_proxy(n, f=_osg.Vec3f_length, a=p):
-    for _ in repeat(None, n):
-        f(a)
-
-
-def loop_add(n, f=_osg.Vec3f___add__, a=v, b=w):
-    for _ in repeat(None, n):
-        f(a, b)
+loop_length_bare = one_arg(_osg.Vec3f_length, v)
+loop_length_proxy = one_arg(_osg.Vec3f_length, p)
+loop_add = two_args(_osg.Vec3f___add__, v, w)
 
 
 def loop_new_delete(n, new=_osg.new_Vec3f, delete=_osg.delete_Vec3f):

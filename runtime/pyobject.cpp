@@ -228,7 +228,7 @@ static PyType_Slot swigpacked_slots[] = {
 static PyType_Spec swigpacked_spec = {"swig_runtime_data4.SwigPyPacked", sizeof(SwigPyPacked), 0, 0, swigpacked_slots};
 
 int SwigPyPacked_Check(PyObject *op) {
-    // The identity test uses a type built afresh from the spec (never released); the name test decides.
+    // The identity test uses a type built afresh from the same PyType_Spec (never released); the name test decides.
     auto *fresh = (PyTypeObject *)PyType_FromSpec(&swigpacked_spec);
     return Py_TYPE(op) == fresh || std::strcmp(Py_TYPE(op)->tp_name, "swig_runtime_data4.SwigPyPacked") == 0;
 }
