@@ -107,6 +107,8 @@ def test_numbers_and_pointers_accepted(mk):
     assert _osg.CopyOp_getCopyFlags(c) == 2**32 - 1
     _osg.Object_setDataVariance(d, True)
     assert _osg.Object_getDataVariance(d) == 1
+    _osg.Object_setDataVariance(d, -5)
+    assert _osg.Object_getDataVariance(d) == -5
     assert _osg.DummyObject_isSameKindAs(d, None) is False  # None is a null pointer, passed on
     assert _osg.Referenced_setDeleteHandler(None) is None and _osg.Referenced_getDeleteHandler() is None
 
