@@ -5,11 +5,15 @@ import sys
 import pytest
 
 from engine_rows import ALL
-from engine_support import SwigPyObject, _osg, free_borrowed, heap_bytes, mk, release, rss_bytes  # noqa: F401
+from engine_support import SwigPyObject, _osg, _osgpeer, free_borrowed, heap_bytes, mk, release, rss_bytes  # noqa: F401
 
 N = 4000
 NUMBERS = {"x": 1.0, "i": 0, "b": True, "t": "name", "n": None}
-NAMED = {"F": "Vec3f", "G": "Vec3d", "c": "CopyOp", "o": "DummyObject", "r": "Referenced", "h": "StandardNotifyHandler"}
+NAMED = {"F": "Vec3f", "G": "Vec3d", "E": "Vec4f", "H": "Vec4d", "Q": "Quat", "M": "Matrixd", "N": "Matrixf",
+         "c": "CopyOp", "o": "DummyObject", "r": "Referenced", "h": "StandardNotifyHandler"}
+# Values made by the sibling module, and element pointers of a matrix.
+VALUES = {"L": lambda: _osgpeer.points(False, [0, 0, 0, 1, 1, 1]), "K": lambda: _osgpeer.points(True, [0, 0, 0]),
+          "B": lambda: _osgpeer.bounding_sphere(0, 0, 0, 1), "X": lambda: _osgpeer.bounding_box(0, 0, 0, 1, 1, 1)}
 # Good calls needing a partner call to leave the state as it was.
 PAIRED = {"intrusive_ptr_add_ref": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
           "intrusive_ptr_release": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
@@ -20,7 +24,7 @@ SAME_AGAIN = {"setNotifyLevel": lambda: _osg.setNotifyLevel(_osg.getNotifyLevel(
               "setNotifyHandler": lambda: _osg.setNotifyHandler(_osg.getNotifyHandler())}
 # No good call: the handlers print each message; std::string has no destroy function; Quat_get needs a matrix.
 NO_GOOD_CALL = {"NotifyHandler_notify", "StandardNotifyHandler_notify", "Object_getCompoundClassName", "Quat_get"}
-CLONES = {"Object_clone", "Object_cloneType", "DummyObject_clone", "DummyObject_cloneType"}
+CLONES = {f"{c}_{f}" for c in ["Object", "DummyObject", "RefMatrixd", "RefMatrixf"] for f in ["clone", "cloneType"]}
 
 
 class Env:
@@ -36,6 +40,11 @@ class Env:
     def arg(self, code):
         if code in NUMBERS:
             return NUMBERS[code]
+        if code in VALUES or code in "df":
+            if code not in self.objects:
+                self.objects[code] = VALUES[code]() if code in VALUES else \
+                    getattr(_osg, f"Matrix{code}_ptr")(self.arg("M" if code == "d" else "N"))
+            return self.objects[code]
         key = (NAMED.get(code, self.cls), code in "vp")
         if key not in self.objects:
             self.objects[key] = self.mk(self.make(key[0]))

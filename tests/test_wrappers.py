@@ -5,9 +5,10 @@ import pytest
 from engine_rows import BY_NAME, ROWS
 from engine_support import VECTORS, _osg, mk, raises  # noqa: F401  (mk is a fixture)
 
-CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS}
+CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS,
+           "Matrixd", "Matrixf", "RefMatrixd", "RefMatrixf", "Plane"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
-          "getNotifyHandler"}
+          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide"}
 
 
 def in_scope(name):

@@ -398,6 +398,33 @@ constexpr Row overload() {
 template <Text Qualified, auto F, Text... Spell>
 using fc = Cand<prototype<Qualified, false, Spell...>(), F, Spell...>;
 
+// A free binary operator: when no candidate matches, NotImplemented.
+template <Text Name, class... C>
+constexpr Row overload_op() {
+    return row<Dispatch<Name, binary_op, Order<>, C...>, Name>();
+}
+
+// For families written as templates over the class: K's candidates without
+// `typename K::template` at every use.
+template <class K, Text Member, auto F, Text... Spell>
+using mem = typename K::template m<Member, F, Spell...>;
+template <class K, Text Member, auto F, Text... Spell>
+using smem = typename K::template sm<Member, F, Spell...>;
+template <class K, class Args, Text... Spell>
+struct CtorOf;
+template <class K, class... A, Text... Spell>
+struct CtorOf<K, List<A...>, Spell...> {
+    using type = typename K::template with<A...>::template c<Spell...>;
+};
+template <class K, class Args, Text... Spell>
+using ctor_of = typename CtorOf<K, Args, Spell...>::type;
+
+// The same type N times, for long uniform signatures: Same<I, T>... over an index sequence.
+template <std::size_t, class T>
+using Same = T;
+template <std::size_t, Text S>
+inline constexpr auto same_text = S;
+
 // Rows of one wrapped class T, spelled `Spelling` in messages, whose Python names are
 // "<Prefix>_<suffix>". Argument 1 of a member is spelled "<Spelling> *", or
 // "<Spelling> const *" for a const member.
@@ -457,6 +484,9 @@ struct Class {
     // A candidate member named `Member` in the prototype.
     template <Text Member, auto F, Text... Spell>
     using m = Cand<prototype<cat(Spelling, Text("::"), Member), const_self<F>, Spell...>(), F, self<F>(), Spell...>;
+    // A candidate static member: no object argument.
+    template <Text Member, auto F, Text... Spell>
+    using sm = Cand<prototype<cat(Spelling, Text("::"), Member), false, Spell...>(), F, Spell...>;
     // A candidate constructor taking A..., spelled Spell...
     template <class... A>
     struct with {
