@@ -8,16 +8,32 @@ PyObject *SWIG_This() {
     return Swig_This_global;
 }
 
+// A `this` computed on each access has no owner but the caller; the last few such objects
+// are held here, so that each lives past the call that converted it.
+static void keep_temporary(PyObject *obj) {
+    static PyObject *held[64];
+    static unsigned next_slot;
+    PyObject *old = held[next_slot];
+    held[next_slot] = obj;
+    next_slot = (next_slot + 1) % 64;
+    Py_XDECREF(old);  // last, since its destroy function may convert again
+}
+
 SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
-    // A proxy whose `this` is itself a proxy is followed down to the pointer object.
-    while (!SwigPyObject_Check(pyobj)) {
+    // A proxy whose `this` is itself a proxy is followed down to the pointer object; the
+    // depth is bounded, so that a `this` leading back to itself fails instead of looping.
+    for (int depth = 0; !SwigPyObject_Check(pyobj); ++depth) {
         PyObject *obj = nullptr;
         // The optional lookup spares building an AttributeError for every number a dispatcher tests.
-        if (PyObject_GetOptionalAttr(pyobj, SWIG_This(), &obj) <= 0) {
+        if (depth == 32 || PyObject_GetOptionalAttr(pyobj, SWIG_This(), &obj) <= 0) {
             PyErr_Clear();
             return nullptr;
         }
-        Py_DECREF(obj);  // kept alive by its owner
+        if (Py_REFCNT(obj) == 1) {
+            keep_temporary(obj);
+        } else {
+            Py_DECREF(obj);  // kept alive by its owner
+        }
         pyobj = obj;
     }
     return (SwigPyObject *)pyobj;
@@ -32,6 +48,10 @@ static inline int convert_ptr(PyObject *obj, void **ptr, swig_type_info *ty, int
     SwigPyObject *sobj = SWIG_Python_GetSwigThis(obj);
     while (sobj) {
         void *vptr = sobj->ptr;
+        if (!sobj->ty) {  // made without a descriptor (by calling the type itself): matches nothing
+            sobj = (SwigPyObject *)sobj->next;
+            continue;
+        }
         if (ty) {
             if (ty == sobj->ty) {
                 if (ptr) *ptr = vptr;
@@ -75,6 +95,10 @@ PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_t
             Py_DECREF(inst);
             inst = nullptr;
         }
+    } else if (!PyType_Check(data->newargs) || !((PyTypeObject *)data->newargs)->tp_new) {
+        // Registered with something that cannot make instances.
+        PyErr_Format(PyExc_TypeError, "cannot create instances of the class registered for '%s'",
+                     SWIG_TypePrettyName(((SwigPyObject *)swig_this)->ty));
     } else {
         PyObject *empty_args = PyTuple_New(0);
         if (empty_args) {
@@ -127,7 +151,12 @@ SwigPyClientData *SwigPyClientData_New(PyObject *obj) {
     if (!obj) return nullptr;
     auto *data = (SwigPyClientData *)std::malloc(sizeof(SwigPyClientData));
     data->klass = Py_NewRef(obj);
-    if (PyObject_IsInstance(obj, (PyObject *)&PyType_Type)) {
+    int is_type = PyObject_IsInstance(obj, (PyObject *)&PyType_Type);
+    if (is_type < 0) {  // an object whose class cannot even be asked is no class
+        PyErr_Clear();
+        is_type = 0;
+    }
+    if (is_type) {
         data->newraw = nullptr;
         data->newargs = Py_NewRef(obj);
     } else {
@@ -142,6 +171,7 @@ SwigPyClientData *SwigPyClientData_New(PyObject *obj) {
             }
             PyTuple_SET_ITEM(data->newargs, 0, Py_NewRef(obj));
         } else {
+            PyErr_Clear();
             data->newargs = Py_NewRef(obj);
         }
     }

@@ -30,20 +30,19 @@ int SwigPyObject_Check(PyObject *op) {
 
 
 static PyObject *SwigPyObject_repr(PyObject *o) {
-    auto *v = (SwigPyObject *)o;
-    PyObject *repr = PyUnicode_FromFormat("<Swig Object of type '%s' at %p>", SWIG_TypePrettyName(v->ty), (void *)v);
-    if (repr && v->next) {
-        PyObject *nrep = SwigPyObject_repr(v->next);
-        if (nrep) {
-            PyObject *joined = PyUnicode_Concat(repr, nrep);
-            Py_DECREF(nrep);
-            Py_DECREF(repr);
-            repr = joined;
-        } else {
-            Py_DECREF(repr);
-            repr = nullptr;
-        }
+    // Each object of the chain in turn, without a separator; built in a loop, not by
+    // recursion, so that a long chain cannot exhaust the stack.
+    PyObject *parts = PyList_New(0);
+    for (auto *v = (SwigPyObject *)o; v && parts; v = (SwigPyObject *)v->next) {
+        PyObject *one = PyUnicode_FromFormat("<Swig Object of type '%s' at %p>", SWIG_TypePrettyName(v->ty), (void *)v);
+        if (!one || PyList_Append(parts, one) < 0) Py_CLEAR(parts);
+        Py_XDECREF(one);
     }
+    if (!parts) return nullptr;
+    PyObject *empty = PyUnicode_FromString("");
+    PyObject *repr = empty ? PyUnicode_Join(empty, parts) : nullptr;
+    Py_XDECREF(empty);
+    Py_DECREF(parts);
     return repr;
 }
 
@@ -93,6 +92,13 @@ PyObject *SwigPyObject_append(PyObject *v, PyObject *next) {
         return nullptr;
     }
     auto *sobj = (SwigPyObject *)v;
+    // Appending an object already in the chain would close it into a loop.
+    for (PyObject *o = v; o; o = ((SwigPyObject *)o)->next) {
+        if (o == next) {
+            PyErr_SetString(PyExc_ValueError, "Attempt to append a SwigPyObject already in the chain");
+            return nullptr;
+        }
+    }
     ((SwigPyObject *)next)->next = sobj->next;
     sobj->next = next;
     Py_INCREF(next);
@@ -142,8 +148,16 @@ static void SwigPyObject_dealloc(PyObject *v) {
         // A destroy function that disowned this object has released its capsule reference already.
         if (sobj->own) Py_XDECREF(Swig_Capsule_global);
     }
+    // A long chain is released one object at a time, not by recursion.
+    while (next && Py_REFCNT(next) == 1) {
+        auto *n = (SwigPyObject *)next;
+        next = n->next;
+        n->next = nullptr;
+        Py_DECREF(n);
+    }
     Py_XDECREF(next);
-    PyObject_Free(v);
+    // The instance's own type frees it: a subclass instance carries a collector header.
+    tp->tp_free(v);
     Py_DECREF(tp);  // every instance of a heap type holds a reference to it
 }
 

@@ -146,3 +146,35 @@ def test_leak_message_for_owned_pointer_without_destroy(run_py):
     assert out.count(message.format("osg::Matrixd *")) == 1
     assert out.count(message.format("peer::Widget *")) == 1
     assert out.count("memory leak") == 2 and "memory leak" not in err
+
+
+MISUSE = [  # (code, what it ends in): each raises or works, none crashes or hangs
+    ("_osg.Vec3f_length(type(_osg.cvar.X_AXIS)())",
+     "TypeError: in method 'Vec3f_length', argument 1 of type 'osg::Vec3f const *'"),
+    ("class O: pass\no = O(); o.this = o; _osg.Vec3f_length(o)",
+     "TypeError: in method 'Vec3f_length', argument 1 of type 'osg::Vec3f const *'"),
+    ("p = _osg.new_Vec3f(); p.disown(); _osg.Vec3f_swiginit(p, p)",
+     "ValueError: Attempt to append a SwigPyObject already in the chain"),
+    ("_osg.Vec3f_swigregister(type(iter(()))); _osg.Vec3f___neg__(_osg.cvar.X_AXIS)",
+     "TypeError: cannot create instances of the class registered for 'osg::Vec3f *'"),
+    ("class Bad:\n    __class__ = property(lambda self: 1 / 0)\n_osg.Vec3f_swigregister(Bad()); _osg.cvar.X_AXIS",
+     "TypeError: object.__new__(X): X is not a type object (Bad)"),
+    ("c = sys.modules['swig_runtime_data4'].type_pointer_capsule; n = sys.getrefcount(c)\n"
+     "for _ in range(100):\n    p = _osg.cvar.X_AXIS; p.acquire(); p.disown(); p.acquire(); p.own(0); del p\n"
+     "print(sys.getrefcount(c) - n)", "0"),
+    ("class P:\n    this = property(lambda self: _osg.new_Vec3f(3, 4, 12))\n"  # a new owner on each access
+     "_osg.Vec3f_swigregister(type('V', (), {'__swig_destroy__': _osg.delete_Vec3f}))\n"
+     "print(sum(_osg.Vec3f_length(P()) for _ in range(1000)))", "13000.0"),
+    ("p = _osg.new_Vec3f(); p.disown()\ntail = p\nfor _ in range(300000):\n    n = _osg.new_Vec3f(); n.disown(); tail.append(n); tail = n\n"
+     "print(repr(p).count('osg::Vec3f'))\ndel p, n, tail", "300001"),  # freed and shown in a loop, not by recursion
+    ("S = type('S', (type(_osg.cvar.X_AXIS),), {})\nfor _ in range(20000):\n    s = S(); s.x = repr(s)\n"
+     "import gc; gc.collect(); print(s.x[:30])", "<Swig Object of type 'unknown'"),
+]
+
+
+@pytest.mark.parametrize("code,last", MISUSE, ids=range(len(MISUSE)))
+def test_misuse_raises_or_works(code, last):
+    import subprocess
+    done = subprocess.run([sys.executable, "-c", f"import sys\nsys.path[:] = {sys.path!r}\nimport _osg\n{code}"],
+                          capture_output=True, text=True, timeout=120)
+    assert (done.stdout + done.stderr).strip().splitlines()[-1] == last
