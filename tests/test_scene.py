@@ -6,6 +6,7 @@ import os
 
 import pytest
 
+import test_leaks
 from engine_support import BUILD, _osg, _osgpeer, free_borrowed, mk, raises, type_name  # noqa: F401 (mk)
 from scene_rows import BY_NAME, FOLDS, NODES, SCENE_DISPATCHERS, SCENE_ROWS
 
@@ -337,3 +338,53 @@ def test_smoothing_a_folded_mesh(made):
     raises(TypeError, overload_message(BY_NAME["SmoothingVisitor_smooth"]), _osg.SmoothingVisitor_smooth, None)
     _osg.delete_SmoothingVisitor(visitor)
     assert not visitor.own()
+
+
+# ---- repeated calls leak nothing ------------------------------------------------------------
+
+# Calls that grow a list each time (or need a render info no module makes) have no good call here.
+GROWING = {"Node_addDescription", "ClipNode_createClipBox", "Geode_compileDrawables"}
+OWNED_RESULTS = {"osg::Matrixd": MATRIX, "std::vector< osg::Matrixd >": MATRICES,
+                 "std::vector< std::vector< osg::Node * > >": PATHS}
+
+
+def settle(name, result):
+    if name.endswith(("_clone", "_cloneType")):
+        free_borrowed(result)
+    elif name == "new_SmoothingVisitor":
+        _osg.delete_SmoothingVisitor(result)
+    elif name == "new_Node":
+        _osg.delete_Referenced(result)
+    elif name.startswith("new_"):
+        _osg.delete_Group(result)
+    elif isinstance(result, type(_osg.notify())) and result.own():
+        _osgpeer.release(result, OWNED_RESULTS[type_name(result)[:-2]])
+
+
+@pytest.mark.parametrize("row", [r for r in BY_NAME.values() if r.name not in GROWING], ids=lambda r: r.name)
+def test_repeated_calls_leak_nothing(made, mk, row):
+    cls = row.cls or "Group"
+    self = mk(getattr(_osg, f"new_{cls}")())
+    box, geometry = _osgpeer.bounding_box(0, 0, 0, 1, 1, 1), _osgpeer.geometry(*FOLD)
+    clip = made(_osg.new_ClipNode())
+    _osg.ClipNode_createClipBox(clip, box)
+    args = {"S": self, "s": self, "v": self, "i": 0, "x": 1.0, "b": True, "n": None, "V": mk(_osg.new_SmoothingVisitor()),
+            "C": mk.CopyOp(), "o": mk.DummyObject(), "M": _osgpeer.matrix(*[1.0] * 16), "P": _osgpeer.node_path([clip]),
+            "B": box, "E": _osgpeer.bounding_sphere(0, 0, 0, 1), "L": _osgpeer.descriptions(["a"]),
+            "W": _osgpeer.value_list([]), "t": _osgpeer.string_ptr(2, "d"), "G": geometry, "3": mk.Vec3d(1, 1, 1),
+            "f": mk.Vec3f(1, 1, 1), "q": mk.Quat(), "T": _osg.Node_getOrCreateStateSet(clip),
+            "p": _osg.ClipNode_getClipPlane(clip, 0), "K": _osg.ClipNode_getClipPlaneList(clip)}
+    f, calls = getattr(_osg, row.name), []
+    for codes in [row.codes] if hasattr(row, "codes") else row.goods:
+        def call(codes=codes):
+            fresh = (_osg.new_SmoothingVisitor if cls == "SmoothingVisitor" else _osg.new_Group)() if "D" in codes else None
+            settle(row.name, f(*[fresh if c == "D" else args[c] for c in codes]))
+        calls.append(call)
+    test_leaks.flat(calls, [a for a in args.values() if a is not None])
+    bad, n = object(), len(row.codes) if hasattr(row, "codes") else 2
+
+    def bad_call(shape):
+        with pytest.raises(TypeError):
+            f(*shape)
+    shapes = [(bad,) * (n + 1)] + ([(bad,) * n] if n else []) + ([(self,) + (bad,) * (n - 1)] if n >= 2 else [])
+    test_leaks.flat([lambda s=s: bad_call(s) for s in shapes], [self])
