@@ -7,6 +7,7 @@
 #include <osg/ColorMask>
 #include <osg/CopyOp>
 #include <osg/Fog>
+#include <osg/Geometry>
 #include <osg/Geode>
 #include <osg/Group>
 #include <osg/Matrixd>

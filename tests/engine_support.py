@@ -27,6 +27,9 @@ _DESTROY = {**{f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["
                for c in ["RefMatrixd", "RefMatrixf"]},
             **{f"osg::{c} *": _osg.delete_Referenced for c in ["Referenced", "DummyObject"]},
             "osg::StandardNotifyHandler *": _osg.delete_StandardNotifyHandler}
+_DESTROY.update({f"osg::{c} *": _osg.delete_Group for c in ["Group", "Geode", "Switch", "Transform", "MatrixTransform",
+                                                             "PositionAttitudeTransform", "AutoTransform", "ClipNode"]})
+_DESTROY.update({"osg::Node *": _osg.delete_Referenced, "osgUtil::SmoothingVisitor *": _osg.delete_SmoothingVisitor})
 
 
 def type_name(proxy):

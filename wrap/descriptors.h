@@ -6,6 +6,7 @@
 #include "module/types.h"
 
 #include <string>
+#include <vector>
 
 namespace wrap {
 
@@ -54,8 +55,6 @@ template <> inline constexpr int descriptor_of<osg::Matrixf> = ty::p_osg__Matrix
 template <> inline constexpr int descriptor_of<osg::RefMatrixd> = ty::p_osg__RefMatrixd;
 template <> inline constexpr int descriptor_of<osg::RefMatrixf> = ty::p_osg__RefMatrixf;
 template <> inline constexpr int descriptor_of<osg::Plane> = ty::p_osg__Plane;
-template <> inline constexpr int descriptor_of<osg::BoundingSphere> = ty::p_osg__BoundingSphereImplT_osg__Vec3d_t;
-template <> inline constexpr int descriptor_of<osg::BoundingBox> = ty::p_osg__BoundingBoxImplT_osg__Vec3d_t;
 template <> inline constexpr int descriptor_of<std::vector<osg::Vec3f>> = ty::p_std__vectorT_osg__Vec3f_t;
 template <> inline constexpr int descriptor_of<std::vector<osg::Vec3d>> = ty::p_std__vectorT_osg__Vec3d_t;
 template <> inline constexpr int descriptor_of<std::string> = ty::p_std__string;
@@ -65,6 +64,31 @@ template <> inline constexpr int descriptor_of<double> = ty::p_double;
 template <> inline constexpr int descriptor_of<float> = ty::p_float;
 template <> inline constexpr int descriptor_of<unsigned int> = ty::p_unsigned_int;
 template <> inline constexpr int descriptor_of<char> = ty::p_char;
+// Scene graph.
+template <> inline constexpr int descriptor_of<osg::Group> = ty::p_osg__Group;
+template <> inline constexpr int descriptor_of<osg::Geode> = ty::p_osg__Geode;
+template <> inline constexpr int descriptor_of<osg::Switch> = ty::p_osg__Switch;
+template <> inline constexpr int descriptor_of<osg::Transform> = ty::p_osg__Transform;
+template <> inline constexpr int descriptor_of<osg::MatrixTransform> = ty::p_osg__MatrixTransform;
+template <> inline constexpr int descriptor_of<osg::PositionAttitudeTransform> = ty::p_osg__PositionAttitudeTransform;
+template <> inline constexpr int descriptor_of<osg::AutoTransform> = ty::p_osg__AutoTransform;
+template <> inline constexpr int descriptor_of<osg::ClipNode> = ty::p_osg__ClipNode;
+template <> inline constexpr int descriptor_of<osg::ClipPlane> = ty::p_osg__ClipPlane;
+template <> inline constexpr int descriptor_of<osg::Geometry> = ty::p_osg__Geometry;
+template <> inline constexpr int descriptor_of<osg::RenderInfo> = ty::p_osg__RenderInfo;
+template <> inline constexpr int descriptor_of<osgTerrain::Terrain> = ty::p_osgTerrain__Terrain;
+template <> inline constexpr int descriptor_of<osgUtil::SmoothingVisitor> = ty::p_osgUtil__SmoothingVisitor;
+template <> inline constexpr int descriptor_of<osg::Node::ComputeBoundingSphereCallback> = ty::p_osg__Node__ComputeBoundingSphereCallback;
+// The library's bounding volumes keep these descriptors whatever precision OSG was built with.
+template <> inline constexpr int descriptor_of<osg::BoundingSphere> = ty::p_osg__BoundingSphereImplT_osg__Vec3d_t;
+template <> inline constexpr int descriptor_of<osg::BoundingBox> = ty::p_osg__BoundingBoxImplT_osg__Vec3d_t;
+template <> inline constexpr int descriptor_of<std::vector<osg::Group *>> = ty::p_std__vectorT_osg__Group_p_t;
+template <> inline constexpr int descriptor_of<std::vector<osg::Node *>> = ty::p_std__vectorT_osg__Node_p_t;
+template <> inline constexpr int descriptor_of<std::vector<std::vector<osg::Node *>>> = ty::p_std__vectorT_std__vectorT_osg__Node_p_t_t;
+template <> inline constexpr int descriptor_of<std::vector<osg::Matrixd>> = ty::p_std__vectorT_osg__Matrixd_t;
+template <> inline constexpr int descriptor_of<std::vector<std::string>> = ty::p_std__vectorT_std__string_t;
+template <> inline constexpr int descriptor_of<std::vector<bool>> = ty::p_std__vectorT_bool_t;
+template <> inline constexpr int descriptor_of<std::vector<osg::ref_ptr<osg::ClipPlane>>> = ty::p_std__vectorT_ref_ptrT_osg__ClipPlane_t_t;
 // clang-format on
 
 template <class T>

@@ -13,6 +13,15 @@
 #include <string>
 #include <vector>
 
+#include <cstring>
+#include <deque>
+#include <osg/BoundingBox>
+#include <osg/BoundingSphere>
+#include <osg/ClipNode>
+#include <osg/Geometry>
+#include <osg/Group>
+#include <osg/Switch>
+
 namespace peer {
 struct SpecialNode : osg::Node {};
 struct Widget {
@@ -154,18 +163,6 @@ PyObject *points(PyObject *, PyObject *args) {
     std::vector<osg::Vec3f> v;
     for (size_t i = 0; i + 2 < c.size(); i += 3) v.emplace_back(c[i], c[i + 1], c[i + 2]);
     return keep(std::move(v), "_p_std__vectorT_osg__Vec3f_t");
-}
-
-PyObject *bounding_sphere(PyObject *, PyObject *args) {
-    double x, y, z, r;
-    if (!PyArg_ParseTuple(args, "dddd", &x, &y, &z, &r)) return nullptr;
-    return keep(osg::BoundingSphere(osg::Vec3d(x, y, z), r), "_p_osg__BoundingSphereImplT_osg__Vec3d_t");
-}
-
-PyObject *bounding_box(PyObject *, PyObject *args) {
-    double a, b, c, d, e, f;
-    if (!PyArg_ParseTuple(args, "dddddd", &a, &b, &c, &d, &e, &f)) return nullptr;
-    return keep(osg::BoundingBox(a, b, c, d, e, f), "_p_osg__BoundingBoxImplT_osg__Vec3d_t");
 }
 
 // ---- runtime introspection ------------------------------------------------------------
@@ -361,6 +358,238 @@ PyObject *set_error_msg(PyObject *, PyObject *args) {
     return nullptr;
 }
 
+// ---- scene-graph values that _osg cannot make: kept for the life of the process --------
+// Their descriptors are looked up by name in the shared ring, as a sibling of the SDK sees them.
+
+std::deque<osg::ref_ptr<osg::Geometry>> geometries;
+std::deque<osg::NodePath> paths;
+std::deque<osg::BoundingBox> boxes;
+std::deque<osg::BoundingSphere> spheres;
+std::deque<osg::Matrixd> matrices;
+std::deque<osg::Node::DescriptionList> description_lists;
+std::deque<osg::Switch::ValueList> value_lists;
+
+template <class T>
+PyObject *keep(std::deque<T> &store, T value, const char *name) {
+    swig_type_info *t = find_or_raise(name);
+    if (!t) return nullptr;
+    store.push_back(std::move(value));
+    return SWIG_Python_NewPointerObj(&store.back(), t, 0);
+}
+
+void *pointer(PyObject *obj, const char *name) {
+    swig_type_info *t = find_or_raise(name);
+    void *p = nullptr;
+    if (t && SWIG_ConvertPtr(obj, &p, t) != SWIG_OK) PyErr_Format(PyExc_TypeError, "not a %s pointer", name);
+    return PyErr_Occurred() ? nullptr : p;
+}
+
+// geometry(((x, y, z), ...), (i0, i1, i2, ...)): a triangle mesh.
+PyObject *geometry(PyObject *, PyObject *args) {
+    PyObject *vertices, *indices;
+    if (!PyArg_ParseTuple(args, "OO", &vertices, &indices)) return nullptr;
+    osg::ref_ptr<osg::Vec3Array> v = new osg::Vec3Array;
+    osg::ref_ptr<osg::DrawElementsUInt> e = new osg::DrawElementsUInt(GL_TRIANGLES);
+    for (Py_ssize_t i = 0; i < PySequence_Size(vertices); ++i) {
+        float x, y, z;
+        PyObject *item = PySequence_GetItem(vertices, i);
+        bool ok = item && PyArg_ParseTuple(item, "fff", &x, &y, &z);
+        Py_XDECREF(item);
+        if (!ok) return nullptr;
+        v->push_back(osg::Vec3(x, y, z));
+    }
+    for (Py_ssize_t i = 0; i < PySequence_Size(indices); ++i) {
+        PyObject *item = PySequence_GetItem(indices, i);
+        long index = item ? PyLong_AsLong(item) : -1;
+        Py_XDECREF(item);
+        if (PyErr_Occurred()) return nullptr;
+        e->push_back((unsigned int)index);
+    }
+    osg::ref_ptr<osg::Geometry> g = new osg::Geometry;
+    g->setVertexArray(v.get());
+    g->addPrimitiveSet(e.get());
+    swig_type_info *t = find_or_raise("_p_osg__Geometry");
+    if (!t) return nullptr;
+    geometries.push_back(g);
+    return SWIG_Python_NewPointerObj(g.get(), t, 0);
+}
+
+// The same geometry seen as a drawable.
+PyObject *as_drawable(PyObject *, PyObject *arg) {
+    auto *g = static_cast<osg::Geometry *>(pointer(arg, "_p_osg__Geometry"));
+    if (!g) return nullptr;
+    return SWIG_Python_NewPointerObj(static_cast<osg::Drawable *>(g), find("_p_osg__Drawable"), 0);
+}
+
+PyObject *vec3_tuple(const osg::Vec3 &v) { return Py_BuildValue("(ddd)", (double)v.x(), (double)v.y(), (double)v.z()); }
+
+// mesh(geometry) -> (vertices, normals, triangle corner indices)
+PyObject *mesh(PyObject *, PyObject *arg) {
+    auto *g = static_cast<osg::Geometry *>(pointer(arg, "_p_osg__Geometry"));
+    if (!g) return nullptr;
+    auto list = [](const osg::Array *a) {
+        auto *v = dynamic_cast<const osg::Vec3Array *>(a);
+        PyObject *out = PyList_New(0);
+        for (size_t i = 0; v && i < v->size(); ++i) {
+            PyObject *t = vec3_tuple((*v)[i]);
+            PyList_Append(out, t);
+            Py_DECREF(t);
+        }
+        return out;
+    };
+    PyObject *corners = PyList_New(0);
+    for (unsigned int p = 0; p < g->getNumPrimitiveSets(); ++p) {
+        const osg::PrimitiveSet *set = g->getPrimitiveSet(p);
+        for (unsigned int i = 0; i < set->getNumIndices(); ++i) {
+            PyObject *index = PyLong_FromUnsignedLong(set->index(i));
+            PyList_Append(corners, index);
+            Py_DECREF(index);
+        }
+    }
+    return Py_BuildValue("(NNN)", list(g->getVertexArray()), list(g->getNormalArray()), corners);
+}
+
+PyObject *node_path(PyObject *, PyObject *arg) {
+    osg::NodePath path;
+    for (Py_ssize_t i = 0; i < PySequence_Size(arg); ++i) {
+        PyObject *item = PySequence_GetItem(arg, i);
+        void *p = nullptr;
+        int status = item ? SWIG_ConvertPtr(item, &p, types[osg__Node]) : -1;
+        Py_XDECREF(item);
+        if (status != SWIG_OK) return PyErr_Format(PyExc_TypeError, "item %zd is not a node", i);
+        path.push_back(static_cast<osg::Node *>(p));
+    }
+    return keep(paths, std::move(path), "_p_std__vectorT_osg__Node_p_t");
+}
+
+PyObject *bounding_box(PyObject *, PyObject *args) {
+    double a, b, c, d, e, f;
+    if (!PyArg_ParseTuple(args, "dddddd", &a, &b, &c, &d, &e, &f)) return nullptr;
+    return keep(boxes, osg::BoundingBox(a, b, c, d, e, f), "_p_osg__BoundingBoxImplT_osg__Vec3d_t");
+}
+
+PyObject *bounding_sphere(PyObject *, PyObject *args) {
+    double x, y, z, r;
+    if (!PyArg_ParseTuple(args, "dddd", &x, &y, &z, &r)) return nullptr;
+    return keep(spheres, osg::BoundingSphere(osg::Vec3d(x, y, z), r), "_p_osg__BoundingSphereImplT_osg__Vec3d_t");
+}
+
+PyObject *read_box(PyObject *, PyObject *arg) {
+    auto *b = static_cast<osg::BoundingBox *>(pointer(arg, "_p_osg__BoundingBoxImplT_osg__Vec3d_t"));
+    if (!b) return nullptr;
+    return Py_BuildValue("(dddddd)", (double)b->xMin(), (double)b->yMin(), (double)b->zMin(), (double)b->xMax(),
+                         (double)b->yMax(), (double)b->zMax());
+}
+
+PyObject *read_sphere(PyObject *, PyObject *arg) {
+    auto *s = static_cast<osg::BoundingSphere *>(pointer(arg, "_p_osg__BoundingSphereImplT_osg__Vec3d_t"));
+    if (!s) return nullptr;
+    return Py_BuildValue("(dddd)", (double)s->center().x(), (double)s->center().y(), (double)s->center().z(),
+                         (double)s->radius());
+}
+
+PyObject *matrix_tuple(const osg::Matrixd &m) {
+    PyObject *out = PyTuple_New(16);
+    for (int i = 0; i < 16; ++i) PyTuple_SET_ITEM(out, i, PyFloat_FromDouble(m.ptr()[i]));
+    return out;
+}
+
+// matrix(16 numbers, row-major as OSG stores them)
+PyObject *matrix(PyObject *, PyObject *args) {
+    double v[16];
+    if (!PyArg_ParseTuple(args, "dddddddddddddddd", v, v + 1, v + 2, v + 3, v + 4, v + 5, v + 6, v + 7, v + 8, v + 9,
+                          v + 10, v + 11, v + 12, v + 13, v + 14, v + 15))
+        return nullptr;
+    return keep(matrices, osg::Matrixd(v), "_p_osg__Matrixd");
+}
+
+PyObject *read_matrix(PyObject *, PyObject *arg) {
+    auto *m = static_cast<osg::Matrixd *>(pointer(arg, "_p_osg__Matrixd"));
+    return m ? matrix_tuple(*m) : nullptr;
+}
+
+PyObject *descriptions(PyObject *, PyObject *arg) {
+    osg::Node::DescriptionList list;
+    for (Py_ssize_t i = 0; i < PySequence_Size(arg); ++i) {
+        PyObject *item = PySequence_GetItem(arg, i);
+        const char *s = item ? PyUnicode_AsUTF8(item) : nullptr;
+        if (s) list.push_back(s);
+        Py_XDECREF(item);
+        if (!s) return nullptr;
+    }
+    return keep(description_lists, std::move(list), "_p_std__vectorT_std__string_t");
+}
+
+PyObject *value_list(PyObject *, PyObject *arg) {
+    osg::Switch::ValueList list;
+    for (Py_ssize_t i = 0; i < PySequence_Size(arg); ++i) {
+        PyObject *item = PySequence_GetItem(arg, i);
+        int v = item ? PyObject_IsTrue(item) : -1;
+        Py_XDECREF(item);
+        if (v < 0) return nullptr;
+        list.push_back(v != 0);
+    }
+    return keep(value_lists, std::move(list), "_p_std__vectorT_bool_t");
+}
+
+template <class C, class F>
+PyObject *items(PyObject *arg, const char *name, F item) {
+    auto *c = static_cast<C *>(pointer(arg, name));
+    if (!c) return nullptr;
+    PyObject *out = PyList_New((Py_ssize_t)c->size());
+    for (size_t i = 0; i < c->size(); ++i) PyList_SET_ITEM(out, i, item((*c)[i]));
+    return out;
+}
+
+PyObject *address(const void *p) { return PyLong_FromVoidPtr(const_cast<void *>(p)); }
+
+// read_list(container, descriptor name): the items of an opaque container as Python values;
+// objects are given by address.
+PyObject *read_list(PyObject *, PyObject *args) {
+    PyObject *c;
+    const char *name;
+    if (!PyArg_ParseTuple(args, "Os", &c, &name)) return nullptr;
+    std::string n = name;
+    if (n == "_p_std__vectorT_osg__Group_p_t") return items<osg::Node::ParentList>(c, name, address);
+    if (n == "_p_std__vectorT_osg__Node_p_t") return items<osg::NodePath>(c, name, address);
+    if (n == "_p_std__vectorT_ref_ptrT_osg__ClipPlane_t_t")
+        return items<osg::ClipNode::ClipPlaneList>(c, name, [](const osg::ref_ptr<osg::ClipPlane> &p) { return address(p.get()); });
+    if (n == "_p_std__vectorT_std__vectorT_osg__Node_p_t_t")
+        return items<osg::NodePathList>(c, name, [](const osg::NodePath &p) {
+            PyObject *out = PyList_New((Py_ssize_t)p.size());
+            for (size_t i = 0; i < p.size(); ++i) PyList_SET_ITEM(out, i, address(p[i]));
+            return out;
+        });
+    if (n == "_p_std__vectorT_osg__Matrixd_t") return items<osg::MatrixList>(c, name, matrix_tuple);
+    if (n == "_p_std__vectorT_bool_t") return items<osg::Switch::ValueList>(c, name, [](bool b) { return PyBool_FromLong(b); });
+    if (n == "_p_std__vectorT_std__string_t")
+        return items<osg::Node::DescriptionList>(c, name, [](const std::string &s) { return PyUnicode_FromString(s.c_str()); });
+    return PyErr_Format(PyExc_LookupError, "no reader for %s", name);
+}
+
+template <class T>
+bool drop(PyObject *obj, const char *name, const char *wanted) {
+    if (std::strcmp(name, wanted)) return false;
+    void *p = nullptr;
+    swig_type_info *t = find_or_raise(name);
+    if (t && SWIG_Python_ConvertPtrAndOwn(obj, &p, t, SWIG_POINTER_DISOWN) == SWIG_OK) delete static_cast<T *>(p);
+    return true;
+}
+
+// release(owned result, descriptor name): the destroy function a sibling supplies for the
+// by-value results _osg hands out without one of its own.
+PyObject *release(PyObject *, PyObject *args) {
+    PyObject *obj;
+    const char *name;
+    if (!PyArg_ParseTuple(args, "Os", &obj, &name)) return nullptr;
+    if (!(drop<osg::Matrixd>(obj, name, "_p_osg__Matrixd") || drop<osg::MatrixList>(obj, name, "_p_std__vectorT_osg__Matrixd_t") ||
+          drop<osg::NodePathList>(obj, name, "_p_std__vectorT_std__vectorT_osg__Node_p_t_t") ||
+          drop<osg::Node::ParentList>(obj, name, "_p_std__vectorT_osg__Group_p_t")))
+        return PyErr_Format(PyExc_LookupError, "no destroy function for %s", name);
+    if (PyErr_Occurred()) return nullptr;
+    Py_RETURN_NONE;
+}
+
 PyMethodDef methods[] = {
     {"string_ptr", string_ptr, METH_VARARGS, nullptr},
     {"read_string", read_string, METH_O, nullptr},
@@ -369,8 +598,6 @@ PyMethodDef methods[] = {
     {"special_node", special_node, METH_NOARGS, nullptr},
     {"glenum_ptr", glenum_ptr, METH_NOARGS, nullptr},
     {"points", points, METH_VARARGS, nullptr},
-    {"bounding_sphere", bounding_sphere, METH_VARARGS, nullptr},
-    {"bounding_box", bounding_box, METH_VARARGS, nullptr},
     {"ring_tables", ring_tables, METH_NOARGS, nullptr},
     {"own_module", own_module, METH_NOARGS, nullptr},
     {"cast_list", cast_list, METH_O, nullptr},
@@ -392,6 +619,20 @@ PyMethodDef methods[] = {
     {"unpack", unpack, METH_VARARGS, nullptr},
     {"raise_or_modify", raise_or_modify, METH_VARARGS, nullptr},
     {"set_error_msg", set_error_msg, METH_VARARGS, nullptr},
+    {"geometry", geometry, METH_VARARGS, nullptr},
+    {"as_drawable", as_drawable, METH_O, nullptr},
+    {"mesh", mesh, METH_O, nullptr},
+    {"node_path", node_path, METH_O, nullptr},
+    {"bounding_box", bounding_box, METH_VARARGS, nullptr},
+    {"bounding_sphere", bounding_sphere, METH_VARARGS, nullptr},
+    {"read_box", read_box, METH_O, nullptr},
+    {"read_sphere", read_sphere, METH_O, nullptr},
+    {"matrix", matrix, METH_VARARGS, nullptr},
+    {"read_matrix", read_matrix, METH_O, nullptr},
+    {"descriptions", descriptions, METH_O, nullptr},
+    {"value_list", value_list, METH_O, nullptr},
+    {"read_list", read_list, METH_VARARGS, nullptr},
+    {"release", release, METH_VARARGS, nullptr},
     {nullptr, nullptr, 0, nullptr},
 };
 

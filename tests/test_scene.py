@@ -1,0 +1,390 @@
+"""Scene graph: every function's messages, then small real scenes: parents, world matrices,
+ownership and reference counts, switches, clip boxes, smoothing of a real mesh."""
+import ctypes
+import math
+import os
+
+import pytest
+
+import test_leaks
+from engine_support import BUILD, _osg, _osgpeer, free_borrowed, mk, raises, type_name  # noqa: F401 (mk)
+from scene_rows import BY_NAME, FOLDS, NODES, SCENE_DISPATCHERS, SCENE_ROWS
+
+zog = ctypes.CDLL(os.path.join(BUILD, "libzogOSG.so"))
+zog.zog_stub_reference_calls.restype = zog.zog_stub_unreference_calls.restype = ctypes.c_ulong
+
+
+def calls():
+    return zog.zog_stub_reference_calls(), zog.zog_stub_unreference_calls()
+
+
+def in_scope(name):
+    head, _, rest = name.partition("_")
+    return name in FOLDS or (rest in NODES + ["SmoothingVisitor"] if head in ("new", "delete")
+                             else head in NODES + ["SmoothingVisitor"])
+
+
+def test_the_table_names_every_scene_function():
+    assert {n for n in dir(_osg) if callable(getattr(_osg, n)) and in_scope(n) and not n.endswith(("_swigregister", "_swiginit"))} == set(BY_NAME)
+    assert len(BY_NAME) + 2 * 10 == 255  # and each class has its two hooks
+    for cls in NODES + ["SmoothingVisitor"]:
+        assert getattr(_osg, f"{cls}_swiginit") and getattr(_osg, f"{cls}_swigregister")
+
+
+@pytest.mark.parametrize("row", SCENE_ROWS, ids=lambda r: r.name)
+def test_argument_1_and_count_messages(row):
+    f, n = getattr(_osg, row.name), len(row.codes)
+    if n == 0:
+        raises(TypeError, f"_osg.{row.name}() takes no arguments (1 given)", f, 1)
+    elif n == 1:
+        raises(TypeError, f"_osg.{row.name}() takes exactly one argument (2 given)", f, 1, 2)
+    else:
+        raises(TypeError, f"{row.name} expected {n} arguments, got {n + 1}", f, *[object()] * (n + 1))
+    if n:
+        raises(TypeError, f"in method '{row.name}', argument 1 of type '{row.arg1}'", f, *[object()] * n)
+
+
+def overload_message(d):
+    return (f"Wrong number or type of arguments for overloaded function '{d.name}'.\n  Possible C/C++ prototypes are:\n"
+            + "".join(f"    {p}\n" for p in d.protos))
+
+
+@pytest.mark.parametrize("d", SCENE_DISPATCHERS, ids=lambda d: d.name)
+def test_overload_messages(d):
+    f, message = getattr(_osg, d.name), overload_message(d)
+    top = max(p.count(",") + (0 if p.endswith("()") or p.endswith("() const") else 1) for p in d.protos)
+    top += 0 if d.name.startswith("new_") or d.cls is None else 1
+    for n in {1, top}:
+        raises(TypeError, message, f, *[object()] * n)
+    raises(TypeError, f"{d.name} expected at most {top} arguments, got {top + 1}\nAdditional information:\n{message}",
+           f, *[object()] * (top + 1))
+
+
+# ---- scenes ------------------------------------------------------------------------------
+
+@pytest.fixture
+def made():
+    """made(proxy) keeps a group-family proxy whose reference the test gives back at the end."""
+    held = []
+    yield lambda p: held.append(p) or p
+    for p in held:
+        _osg.delete_Group(p)
+
+
+MATRIX, MATRICES, PATHS = "_p_osg__Matrixd", "_p_std__vectorT_osg__Matrixd_t", "_p_std__vectorT_std__vectorT_osg__Node_p_t_t"
+
+
+@pytest.fixture
+def owned():
+    """owned(proxy, descriptor) holds a by-value result that _osg has no destroy function for."""
+    held = []
+    yield lambda p, name=MATRIX: held.append((p, name)) or p
+    for p, name in held:
+        _osgpeer.release(p, name)
+
+
+def camera():
+    return _osgpeer.new_pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Camera", 0)
+
+
+def point(matrix, p):
+    """p transformed by a matrix of OSG's row-vector layout."""
+    m = _osgpeer.read_matrix(matrix)
+    return [sum(p[i] * m[4 * i + j] for i in range(3)) + m[12 + j] for j in range(3)]
+
+
+def translate(x, y, z):
+    return _osgpeer.matrix(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, x, y, z, 1)
+
+
+@pytest.fixture
+def scene(made, mk):
+    """root -> mt (translate 10, 20, 30) -> pat (scale 2, turn 90 degrees about z, move 1, 2, 3) -> leaf;
+    root -> switch -> clip node with a clip box."""
+    root, mt, pat, sw, clip = (made(getattr(_osg, f"new_{c}")()) for c in
+                               ["Group", "MatrixTransform", "PositionAttitudeTransform", "Switch", "ClipNode"])
+    leaf = made(_osg.new_Geode())
+    parents = _osg.Node_getParents(leaf)  # taken before the change: it shows the node's own list
+    for parent, child in [(root, mt), (mt, pat), (pat, leaf), (root, sw), (sw, clip)]:
+        assert _osg.Group_addChild(parent, child) is True
+    _osg.MatrixTransform_setMatrix(mt, translate(10, 20, 30))
+    _osg.PositionAttitudeTransform_setPosition(pat, mk.Vec3d(1, 2, 3))
+    _osg.PositionAttitudeTransform_setAttitude(pat, mk.Quat(math.pi / 2, mk.Vec3d(0, 0, 1)))
+    _osg.PositionAttitudeTransform_setScale(pat, mk.Vec3d(2, 2, 2))
+    _osg.ClipNode_createClipBox(clip, _osgpeer.bounding_box(-1, -1, -1, 1, 1, 1))
+    return dict(root=root, mt=mt, pat=pat, leaf=leaf, sw=sw, clip=clip, parents=parents)
+
+
+def test_parents_and_children(scene, owned):
+    root, mt, pat, leaf, sw = (scene[k] for k in ["root", "mt", "pat", "leaf", "sw"])
+    assert _osgpeer.read_list(scene["parents"], "_p_std__vectorT_osg__Group_p_t") == [int(pat)]
+    assert not scene["parents"].own() and int(_osg.Node_getParent(leaf, 0)) == int(pat)
+    assert [int(_osg.Group_getChild(root, i)) for i in range(_osg.Group_getNumChildren(root))] == [int(mt), int(sw)]
+    assert _osg.Group_getChildIndex(root, sw) == 1 and _osg.Group_getChildIndex(root, leaf) == 2  # not a child
+    assert _osg.Group_containsNode(root, mt) and not _osg.Group_containsNode(root, leaf)
+    extra = [_osg.new_Node() for _ in range(3)]
+    for n in extra:
+        _osg.Group_addChild(root, n)
+    assert _osg.Group_removeChild(root, 2) and _osg.Group_getNumChildren(root) == 4  # one child at 2
+    assert _osg.Group_removeChild(root, 2, 2) and _osg.Group_getNumChildren(root) == 2
+    assert _osg.Group_removeChild(root, leaf) is False and _osg.Group_addChild(root, None) is False
+    assert [_osg.Referenced_referenceCount(n) for n in extra] == [1, 1, 1]  # the group dropped its own
+    paths, also = owned(_osg.Node_getParentalNodePaths(leaf), PATHS), owned(_osg.Node_getParentalNodePaths(leaf, None), PATHS)
+    assert paths.own() and also.own()
+    assert _osgpeer.read_list(paths, "_p_std__vectorT_std__vectorT_osg__Node_p_t_t") == [[int(root), int(mt),
+                                                                                           int(pat), int(leaf)]]
+    for n in extra:
+        _osg.delete_Referenced(n)
+
+
+def test_world_matrices_of_a_node_path(scene, owned):
+    root, mt, pat, leaf = (scene[k] for k in ["root", "mt", "pat", "leaf"])
+    path = _osgpeer.node_path([root, mt, pat, leaf])
+    world = owned(_osg.computeLocalToWorld(path))
+    assert world.own()
+    assert point(world, [1, 0, 0]) == pytest.approx([11, 24, 33])  # scale, turn, move, then translate
+    assert _osgpeer.read_matrix(world) == _osgpeer.read_matrix(owned(_osg.computeLocalToWorld(path, True)))
+    assert point(owned(_osg.computeWorldToLocal(path)), [11, 24, 33]) == pytest.approx([1, 0, 0])
+    (only,) = _osgpeer.read_list(owned(_osg.Node_getWorldMatrices(leaf), MATRICES), "_p_std__vectorT_osg__Matrixd_t")
+    assert only == pytest.approx(_osgpeer.read_matrix(world))
+    view = translate(0, 0, -5)
+    assert point(owned(_osg.computeLocalToEye(view, path)), [1, 0, 0]) == pytest.approx([11, 24, 28])
+    assert point(owned(_osg.computeEyeToLocal(view, path, False)), [11, 24, 28]) == pytest.approx([1, 0, 0])
+    in_out = translate(0, 0, 0)
+    assert _osg.Transform_computeLocalToWorldMatrix(mt, in_out, None) is True
+    assert point(in_out, [0, 0, 0]) == [10, 20, 30]
+    raises(TypeError, "invalid null reference in method 'MatrixTransform_computeWorldToLocalMatrix', argument 2 of "
+           "type 'osg::Matrix &'", _osg.MatrixTransform_computeWorldToLocalMatrix, mt, None, None)
+    # None fails the dispatcher's reference test, so the overload message is raised.
+    raises(TypeError, overload_message(BY_NAME["computeEyeToLocal"]), _osg.computeEyeToLocal, view, None)
+    raises(TypeError, overload_message(BY_NAME["computeLocalToWorld"]), _osg.computeLocalToWorld, [root, mt])
+    raises(TypeError, overload_message(BY_NAME["computeLocalToWorld"]), _osg.computeLocalToWorld, path, 1)
+    held = _osg.MatrixTransform_getMatrix(mt)
+    _osg.MatrixTransform_postMult(mt, translate(1, 1, 1))
+    assert point(held, [0, 0, 0]) == [11, 21, 31] and not held.own()  # the node's own matrix
+    assert point(_osg.MatrixTransform_getInverseMatrix(mt), [11, 21, 31]) == [0, 0, 0]
+
+
+def test_transform_accessors(made, mk):
+    at, mt = made(_osg.new_AutoTransform()), made(_osg.new_MatrixTransform(translate(4, 5, 6)))
+    assert point(_osg.MatrixTransform_getMatrix(mt), [0, 0, 0]) == [4, 5, 6]
+    assert _osg.Transform_asAutoTransform(mt) is None
+    assert int(_osg.Transform_asAutoTransform(at)) == int(at) and int(_osg.Transform_asMatrixTransform(mt)) == int(mt)
+    scale = _osg.AutoTransform_getScale(at)
+    _osg.AutoTransform_setScale(at, 2)  # an int takes the uniform form
+    assert _osg.Vec3d_length2(scale) == 12 and not scale.own()
+    _osg.AutoTransform_setScale(at, mk.Vec3d(1, 2, 3))
+    assert _osg.Vec3d_length2(scale) == 14
+    _osg.Transform_setReferenceFrame(at, _osg.Transform_ABSOLUTE_RF)
+    _osg.AutoTransform_setAutoRotateMode(at, _osg.AutoTransform_ROTATE_TO_AXIS)
+    assert (_osg.Transform_getReferenceFrame(at), _osg.AutoTransform_getAutoRotateMode(at)) == (1, 3)
+    raises(OverflowError, "in method 'AutoTransform_setAutoUpdateEyeMovementTolerance', argument 2 of type 'float'",
+           _osg.AutoTransform_setAutoUpdateEyeMovementTolerance, at, 1e39)
+    raises(TypeError, "in method 'AutoTransform_setAutoScaleToScreen', argument 2 of type 'bool'",
+           _osg.AutoTransform_setAutoScaleToScreen, at, 1)
+    raises(TypeError, "invalid null reference in method 'PositionAttitudeTransform_setPosition', argument 2 of type "
+           "'osg::Vec3d const &'", _osg.PositionAttitudeTransform_setPosition, made(_osg.new_PositionAttitudeTransform()),
+           None)
+
+
+def test_reference_counts_and_ownership(run_py):
+    before = calls()
+    for cls in NODES[1:]:
+        p = getattr(_osg, f"new_{cls}")()
+        assert p.own() and type_name(p) == f"osg::{cls} *" and _osg.Referenced_referenceCount(p) == 1
+        copy = getattr(_osg, f"new_{cls}")(p)  # the copy constructors take the same reference
+        assert _osg.Referenced_referenceCount(copy) == 1
+        _osg.delete_Group(copy)
+        _osg.intrusive_ptr_add_ref(p)
+        assert _osg.delete_Group(p) is None and not p.own() and _osg.Referenced_referenceCount(p) == 1
+        _osg.intrusive_ptr_release(p)
+    node = _osg.new_Node()
+    assert _osg.Referenced_referenceCount(node) == 1
+    assert [a - b for a, b in zip(calls(), before)] == [16, 16]  # the plain node calls neither
+    _osg.delete_Referenced(node)
+    # A proxy dies while its node has a parent: the parent keeps the node.
+    out, _ = run_py("""
+        import ctypes, _osg
+        zog = ctypes.CDLL([p for p in sys.path if p.endswith("build")][0] + "/libzogOSG.so")
+        class Group:
+            __swig_destroy__ = _osg.delete_Group
+            def __init__(self):
+                _osg.Group_swiginit(self, _osg.new_Group())
+        _osg.Group_swigregister(Group)
+        root, child = Group(), Group()
+        _osg.Group_addChild(root, child)
+        del child
+        held = _osg.Group_getChild(root, 0)
+        print(held.own(), _osg.Referenced_referenceCount(held), _osg.Node_className(held), zog.zog_stub_unreference_calls())
+        _osg.Group_removeChild(root, 0)  # the last reference: the child is deleted
+        print(_osg.Group_getNumChildren(root), zog.zog_stub_unreference_calls())
+    """)
+    assert out == "False 1 Group 1\n0 1\n"
+
+
+def test_camera_proxies_are_refused(made):
+    g = made(_osg.new_Group())
+    raises(TypeError, "in method 'Node_getNodeMask', argument 1 of type 'osg::Node const *'", _osg.Node_getNodeMask, camera())
+    raises(TypeError, "in method 'Group_addChild', argument 2 of type 'osg::Node *'", _osg.Group_addChild, g, camera())
+    raises(TypeError, "in method 'Transform_getReferenceFrame', argument 1 of type 'osg::Transform const *'",
+           _osg.Transform_getReferenceFrame, camera())
+    raises(TypeError, "in method 'delete_Group', argument 1 of type 'osg::Group *'", _osg.delete_Group, camera())
+
+
+def test_node_values(made, mk):
+    n, g = _osg.new_Node(), made(_osg.new_Group())
+    assert _osg.Node_asGroup(n) is None and type_name(_osg.Node_asGroup(g)) == "osg::Group *"
+    assert _osg.Group_getNumChildren(_osg.Node_asGroup(g)) == 0
+    _osg.Node_setNodeMask(n, 2**32 - 1)
+    assert _osg.Node_getNodeMask(n) == 2**32 - 1
+    for bad in (-1, 2**32):
+        raises(OverflowError, "in method 'Node_setNodeMask', argument 2 of type 'osg::Node::NodeMask'",
+               _osg.Node_setNodeMask, n, bad)
+    raises(TypeError, "in method 'Node_addDescription', argument 2 of type 'std::string const &'",
+           _osg.Node_addDescription, n, "text")
+    raises(TypeError, "in method 'Node_setDescriptions', argument 2 of type 'osg::Node::DescriptionList const &'",
+           _osg.Node_setDescriptions, n, ["a"])
+    raises(TypeError, "invalid null reference in method 'Node_setDescriptions', argument 2 of type "
+           "'osg::Node::DescriptionList const &'", _osg.Node_setDescriptions, n, None)
+    held = _osg.Node_getDescriptions(n)
+    _osg.Node_setDescriptions(n, _osgpeer.descriptions(["first", "second"]))
+    _osg.Node_addDescription(n, _osgpeer.string_ptr(3, "third"))
+    assert _osgpeer.read_list(held, "_p_std__vectorT_std__string_t") == ["first", "second", "third"]
+    assert _osgpeer.read_string(_osg.Node_getDescription(n, 2)) == "third" and _osg.Node_getNumDescriptions(n) == 3
+    state = _osg.Node_getOrCreateStateSet(n)
+    assert int(_osg.Node_getStateSet(n)) == int(state) and not state.own()
+    _osg.Node_setInitialBound(n, _osgpeer.bounding_sphere(1, 2, 3, 4))
+    assert _osgpeer.read_sphere(_osg.Node_getBound(n)) == (1, 2, 3, 4)
+    assert _osgpeer.read_sphere(_osg.Node_getInitialBound(n)) == (1, 2, 3, 4)
+    clone = _osg.Group_clone(g, mk.CopyOp())
+    assert (type_name(clone), clone.own(), _osg.Referenced_referenceCount(clone)) == ("osg::Object *", False, 0)
+    assert _osg.Object_className(clone) == "Group" and _osg.Group_isSameKindAs(g, clone)
+    free_borrowed(clone)
+    assert (_osg.Node_className(n), _osg.Node_libraryName(n), _osg.AutoTransform_className(made(_osg.new_AutoTransform()))) \
+        == ("Node", "osg", "AutoTransform")
+    _osg.delete_Referenced(n)
+
+
+def test_switch_values(made):
+    s, a, b = made(_osg.new_Switch()), made(_osg.new_Group()), made(_osg.new_Geode())
+    values = _osg.Switch_getValueList(s)
+    raises(TypeError, overload_message(BY_NAME["Switch_addChild"]), _osg.Switch_addChild, s, a, 1)
+    assert _osg.Switch_addChild(s, a, False) and _osg.Switch_addChild(s, b)
+    assert _osgpeer.read_list(values, "_p_std__vectorT_bool_t") == [False, True]
+    assert _osg.Switch_setSingleChildOn(s, 0) and (_osg.Switch_getValue(s, 0), _osg.Switch_getChildValue(s, b)) == (True, False)
+    _osg.Switch_setValueList(s, _osgpeer.value_list([False, True]))
+    assert _osgpeer.read_list(values, "_p_std__vectorT_bool_t") == [False, True]
+    raises(TypeError, "invalid null reference in method 'Switch_setValueList', argument 2 of type "
+           "'osg::Switch::ValueList const &'", _osg.Switch_setValueList, s, None)
+    assert _osg.Group_removeChild(s, 0) and _osgpeer.read_list(values, "_p_std__vectorT_bool_t") == [True]
+
+
+def test_clip_box(scene, made):
+    clip = scene["clip"]
+    planes = _osg.ClipNode_getClipPlaneList(clip)
+    assert _osg.ClipNode_getNumClipPlanes(clip) == 6 and not planes.own()
+    first = _osg.ClipNode_getClipPlane(clip, 0)
+    assert _osgpeer.convert_form(first, "_p_osg__ClipPlane", "plain")[0] == 0  # only a plane converts
+    _osg.intrusive_ptr_add_ref(first)  # the node's list holds the only other reference
+    assert _osg.ClipNode_removeClipPlane(clip, first) and _osg.ClipNode_removeClipPlane(clip, 4)
+    assert len(_osgpeer.read_list(planes, "_p_std__vectorT_ref_ptrT_osg__ClipPlane_t_t")) == 4
+    other = made(_osg.new_ClipNode())
+    _osg.ClipNode_setClipPlaneList(other, planes)
+    assert _osg.ClipNode_getNumClipPlanes(other) == 4 and _osg.ClipNode_addClipPlane(other, first)
+    _osg.intrusive_ptr_release(first)
+    assert _osg.ClipNode_setLocalStateSetModes(other) is None and _osg.Node_getStateSet(other) is not None
+    raises(TypeError, overload_message(BY_NAME["ClipNode_createClipBox"]), _osg.ClipNode_createClipBox, other, None)
+
+
+# Two right triangles folded 90 degrees along their shared edge from (0, 0, 0) to (1, 0, 0).
+FOLD = [(0, 0, 0), (1, 0, 0), (0, 1, 0), (0, 0, 1)], [0, 1, 2, 1, 0, 3]
+UP, SIDE, HALF = (0, 0, 1), (0, 1, 0), (0, math.sqrt(0.5), math.sqrt(0.5))
+
+
+def corner_normals(geometry):
+    """The normal at each triangle corner, flat."""
+    vertices, normals, corners = _osgpeer.mesh(geometry)
+    return [c for i in corners for c in normals[i]]
+
+
+def flat(*normals):
+    return pytest.approx([c for n in normals for c in n])
+
+
+def test_smoothing_a_folded_mesh(made):
+    def smoothed(*angle):
+        g = _osgpeer.geometry(*FOLD)
+        assert _osg.SmoothingVisitor_smooth(g, *angle) is None
+        return corner_normals(g)
+    # Every edge smoothed: the corners on the shared edge take the mean of both faces.
+    assert smoothed() == smoothed(math.pi) == flat(HALF, HALF, UP, HALF, HALF, SIDE)
+    # A crease sharper than the angle stays sharp: each face keeps its own normal.
+    assert smoothed(1) == flat(UP, UP, UP, SIDE, SIDE, SIDE)
+    visitor = _osg.new_SmoothingVisitor()
+    assert _osg.SmoothingVisitor_getCreaseAngle(visitor) == math.pi
+    _osg.SmoothingVisitor_setCreaseAngle(visitor, 0.5)
+    g = _osgpeer.geometry(*FOLD)
+    _osg.SmoothingVisitor_apply(visitor, g)
+    assert corner_normals(g) == flat(UP, UP, UP, SIDE, SIDE, SIDE)
+    # Run over a subgraph: the visitor reaches the geode's geometry.
+    geode, g = made(_osg.new_Geode()), _osgpeer.geometry(*FOLD)
+    assert _osg.Geode_addDrawable(geode, _osgpeer.as_drawable(g)) and _osg.Geode_getNumDrawables(geode) == 1
+    _osg.SmoothingVisitor_setCreaseAngle(visitor, math.pi)
+    _osg.Node_accept(geode, visitor)
+    assert corner_normals(g) == flat(HALF, HALF, UP, HALF, HALF, SIDE)
+    assert _osgpeer.read_box(_osg.Geode_getBoundingBox(geode)) == (0, 0, 0, 1, 1, 1)
+    center = _osgpeer.read_sphere(_osg.Node_getBound(geode))
+    assert center[:3] == (0.5, 0.5, 0.5) and center[3] == pytest.approx(math.sqrt(0.75))
+    raises(TypeError, overload_message(BY_NAME["SmoothingVisitor_smooth"]), _osg.SmoothingVisitor_smooth, None)
+    _osg.delete_SmoothingVisitor(visitor)
+    assert not visitor.own()
+
+
+# ---- repeated calls leak nothing ------------------------------------------------------------
+
+# Calls that grow a list each time (or need a render info no module makes) have no good call here.
+GROWING = {"Node_addDescription", "ClipNode_createClipBox", "Geode_compileDrawables"}
+OWNED_RESULTS = {"osg::Matrixd": MATRIX, "std::vector< osg::Matrixd >": MATRICES,
+                 "std::vector< std::vector< osg::Node * > >": PATHS}
+
+
+def settle(name, result):
+    if name.endswith(("_clone", "_cloneType")):
+        free_borrowed(result)
+    elif name == "new_SmoothingVisitor":
+        _osg.delete_SmoothingVisitor(result)
+    elif name == "new_Node":
+        _osg.delete_Referenced(result)
+    elif name.startswith("new_"):
+        _osg.delete_Group(result)
+    elif isinstance(result, type(_osg.notify())) and result.own():
+        _osgpeer.release(result, OWNED_RESULTS[type_name(result)[:-2]])
+
+
+@pytest.mark.parametrize("row", [r for r in BY_NAME.values() if r.name not in GROWING], ids=lambda r: r.name)
+def test_repeated_calls_leak_nothing(made, mk, row):
+    cls = row.cls or "Group"
+    self = mk(getattr(_osg, f"new_{cls}")())
+    box, geometry = _osgpeer.bounding_box(0, 0, 0, 1, 1, 1), _osgpeer.geometry(*FOLD)
+    clip = made(_osg.new_ClipNode())
+    _osg.ClipNode_createClipBox(clip, box)
+    args = {"S": self, "s": self, "v": self, "i": 0, "x": 1.0, "b": True, "n": None, "V": mk(_osg.new_SmoothingVisitor()),
+            "C": mk.CopyOp(), "o": mk.DummyObject(), "M": _osgpeer.matrix(*[1.0] * 16), "P": _osgpeer.node_path([clip]),
+            "B": box, "E": _osgpeer.bounding_sphere(0, 0, 0, 1), "L": _osgpeer.descriptions(["a"]),
+            "W": _osgpeer.value_list([]), "t": _osgpeer.string_ptr(2, "d"), "G": geometry, "3": mk.Vec3d(1, 1, 1),
+            "f": mk.Vec3f(1, 1, 1), "q": mk.Quat(), "T": _osg.Node_getOrCreateStateSet(clip),
+            "p": _osg.ClipNode_getClipPlane(clip, 0), "K": _osg.ClipNode_getClipPlaneList(clip)}
+    f, calls = getattr(_osg, row.name), []
+    for codes in [row.codes] if hasattr(row, "codes") else row.goods:
+        def call(codes=codes):
+            fresh = (_osg.new_SmoothingVisitor if cls == "SmoothingVisitor" else _osg.new_Group)() if "D" in codes else None
+            settle(row.name, f(*[fresh if c == "D" else args[c] for c in codes]))
+        calls.append(call)
+    test_leaks.flat(calls, [a for a in args.values() if a is not None])
+    bad, n = object(), len(row.codes) if hasattr(row, "codes") else 2
+
+    def bad_call(shape):
+        with pytest.raises(TypeError):
+            f(*shape)
+    shapes = [(bad,) * (n + 1)] + ([(bad,) * n] if n else []) + ([(self,) + (bad,) * (n - 1)] if n >= 2 else [])
+    test_leaks.flat([lambda s=s: bad_call(s) for s in shapes], [self])
