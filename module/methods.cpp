@@ -26,11 +26,11 @@ std::vector<PyMethodDef> build() {
     add_object_rows(t);
     add_dummy_object_rows(t);
     hooks<ty::p_osg__Node, "Node">(t);
-    hooks<ty::p_osg__Texture2D, "Texture2D">(t);
-    hooks<ty::p_osg__StateSet, "StateSet">(t);
-    hooks<ty::p_osg__StateAttribute, "StateAttribute", false>(t);
-    hooks<ty::p_osg__ColorMask, "ColorMask">(t);
-    hooks<ty::p_osg__Viewport, "Viewport">(t);
+    add_texture2d_rows(t);
+    add_state_set_rows(t);
+    add_state_attribute_rows(t);
+    add_color_mask_rows(t);
+    add_viewport_rows(t);
     hooks<ty::p_osg__Group, "Group">(t);
     hooks<ty::p_osg__Camera, "Camera">(t);
     hooks<ty::p_osg__CameraRenderOrderSortOp, "CameraRenderOrderSortOp">(t);
@@ -42,9 +42,9 @@ std::vector<PyMethodDef> build() {
     hooks<ty::p_osg__AutoTransform, "AutoTransform">(t);
     hooks<ty::p_osg__PositionAttitudeTransform, "PositionAttitudeTransform">(t);
     hooks<ty::p_osg__Plane, "Plane">(t);
-    hooks<ty::p_osg__ClipPlane, "ClipPlane">(t);
+    add_clip_plane_rows(t);
     hooks<ty::p_osg__ClipNode, "ClipNode">(t);
-    hooks<ty::p_osg__Fog, "Fog">(t);
+    add_fog_rows(t);
     t.push_back({nullptr, nullptr, 0, nullptr});
     return t;
 }
