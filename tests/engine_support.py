@@ -22,6 +22,12 @@ ELEMENT = {**{v: "float" if v.endswith("f") else "double" for v in VECTORS}, "Qu
 _DESTROY = {**{f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["Quat", "CopyOp"]},
             **{f"osg::{c} *": _osg.delete_Referenced for c in ["Referenced", "DummyObject"]},
             "osg::StandardNotifyHandler *": _osg.delete_StandardNotifyHandler}
+# Render state: attributes and state sets release one reference; textures and pairs only the
+# sibling module can free.
+_DESTROY.update({f"osg::{c} *": _osg.delete_Referenced for c in ["StateSet", "Fog", "ColorMask", "ClipPlane", "Viewport"]})
+_DESTROY.update({"osg::Texture2D *": lambda p: (p.disown(), _osgpeer.free_texture(p)),
+                 "std::pair< enum osg::StateAttribute::Type,unsigned int > *":
+                     lambda p: (p.disown(), _osgpeer.free_type_member_pair(p))})
 
 
 def type_name(proxy):

@@ -5,11 +5,17 @@ import sys
 import pytest
 
 from engine_rows import ALL
-from engine_support import SwigPyObject, _osg, free_borrowed, heap_bytes, mk, release, rss_bytes  # noqa: F401
+from engine_support import SwigPyObject, _osg, _osgpeer, free_borrowed, heap_bytes, mk, release, rss_bytes  # noqa: F401
 
 N = 4000
 NUMBERS = {"x": 1.0, "i": 0, "b": True, "t": "name", "n": None}
 NAMED = {"F": "Vec3f", "G": "Vec3d", "c": "CopyOp", "o": "DummyObject", "r": "Referenced", "h": "StandardNotifyHandler"}
+NAMED.update({"f": "Fog", "K": "Vec4f", "H": "Vec4d"})
+# Render-state values only the sibling module makes.
+PEER = {"e": lambda: _osgpeer.make_glenum(0x0B60), "E": lambda: _osgpeer.make_glenum(0x0DE1),
+        "u": lambda: _osgpeer.make_uniform_type(0x1406),
+        "z": lambda: _osgpeer.make_string("name"), "a": _osgpeer.make_state, "I": lambda: _osgpeer.make_image(4, 4),
+        "m": _osgpeer.make_mode_usage}
 # Good calls needing a partner call to leave the state as it was.
 PAIRED = {"intrusive_ptr_add_ref": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
           "intrusive_ptr_release": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
@@ -21,6 +27,13 @@ SAME_AGAIN = {"setNotifyLevel": lambda: _osg.setNotifyLevel(_osg.getNotifyLevel(
 # No good call: the handlers print each message; std::string has no destroy function; Quat_get needs a matrix.
 NO_GOOD_CALL = {"NotifyHandler_notify", "StandardNotifyHandler_notify", "Object_getCompoundClassName", "Quat_get"}
 CLONES = {"Object_clone", "Object_cloneType", "DummyObject_clone", "DummyObject_cloneType"}
+# No good call: GL work needs a context; container setters take the getters' results (tested apart).
+NO_GOOD_CALL |= {f"{c}_apply" for c in ["StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"]}
+NO_GOOD_CALL |= {"Texture2D_copyTexImage2D", "Texture2D_copyTexSubImage2D", "Viewport_computeWindowMatrix"}
+NO_GOOD_CALL |= {f"StateSet_set{c}List" for c in ["Mode", "Attribute", "TextureMode", "TextureAttribute", "Uniform",
+                                                  "Define"]}
+CLONES |= {f"{c}_{f}" for c in ["StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport"]
+           for f in ["clone", "cloneType"]}
 
 
 class Env:
@@ -30,12 +43,14 @@ class Env:
         self.mk, self.cls, self.objects = mk, cls, {}
 
     def make(self, cls):
-        cls = {"Object": "DummyObject", "NotifyHandler": "StandardNotifyHandler"}.get(cls, cls)
+        cls = {"Object": "DummyObject", "NotifyHandler": "StandardNotifyHandler", "StateAttribute": "Fog"}.get(cls, cls)
         return getattr(_osg, f"new_{cls}")(*[1.0] * (4 if cls == "Quat" else int(cls[3]) if cls[:3] == "Vec" else 0))
 
     def arg(self, code):
         if code in NUMBERS:
             return NUMBERS[code]
+        if code in PEER:
+            return PEER[code]()
         key = (NAMED.get(code, self.cls), code in "vp")
         if key not in self.objects:
             self.objects[key] = self.mk(self.make(key[0]))

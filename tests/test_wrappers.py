@@ -6,6 +6,7 @@ from engine_rows import BY_NAME, ROWS
 from engine_support import VECTORS, _osg, mk, raises  # noqa: F401  (mk is a fixture)
 
 CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS}
+CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
           "getNotifyHandler"}
 

@@ -189,11 +189,11 @@ PyObject *make_state(PyObject *, PyObject *) {
     return t ? SWIG_Python_NewPointerObj(state.get(), t, 0) : nullptr;
 }
 
-// A mode usage that records what an attribute reports: [(mode, is texture mode), ...].
+// A mode usage that records what attributes report: [(mode, is texture mode), ...], sorted.
 struct ModeRecorder : osg::StateAttribute::ModeUsage {
-    std::vector<std::pair<unsigned int, bool>> modes;
-    void usesMode(osg::StateAttribute::GLMode m) override { modes.emplace_back(m, false); }
-    void usesTextureMode(osg::StateAttribute::GLMode m) override { modes.emplace_back(m, true); }
+    std::set<std::pair<unsigned int, bool>> modes;
+    void usesMode(osg::StateAttribute::GLMode m) override { modes.emplace(m, false); }
+    void usesTextureMode(osg::StateAttribute::GLMode m) override { modes.emplace(m, true); }
 };
 ModeRecorder recorder;
 
