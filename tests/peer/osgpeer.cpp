@@ -178,9 +178,20 @@ PyObject *make_image(PyObject *, PyObject *args) {
     return SWIG_Python_NewPointerObj(images.back().get(), t, 0);
 }
 
-PyObject *image_ref_count(PyObject *, PyObject *arg) {
-    auto *image = pointer<osg::Image>(arg, "_p_osg__Image");
-    return PyErr_Occurred() ? nullptr : PyLong_FromLong(image->referenceCount());
+// ref_count(obj, "_p_osg__Image" or "_p_osg__Texture2D"): neither converts to osg::Referenced in _osg.
+PyObject *ref_count(PyObject *, PyObject *args) {
+    PyObject *obj;
+    const char *name;
+    if (!PyArg_ParseTuple(args, "Os", &obj, &name)) return nullptr;
+    osg::Referenced *r = std::string(name) == "_p_osg__Texture2D" ? static_cast<osg::Referenced *>(pointer<osg::Texture2D>(obj, name))
+                                                                  : pointer<osg::Image>(obj, name);
+    return PyErr_Occurred() ? nullptr : PyLong_FromLong(r->referenceCount());
+}
+
+// A pointer object of the named descriptor holding null, which None is not.
+PyObject *null_pointer(PyObject *, PyObject *arg) {
+    swig_type_info *t = find_or_raise(PyUnicode_AsUTF8(arg));
+    return t ? SwigPyObject_New(nullptr, t, 0) : nullptr;
 }
 
 PyObject *make_state(PyObject *, PyObject *) {
@@ -542,7 +553,8 @@ PyMethodDef methods[] = {
     {"uniform_type_value", handle_value<uniform_type_name>, METH_O, nullptr},
     {"make_string", make_string, METH_O, nullptr},
     {"make_image", make_image, METH_VARARGS, nullptr},
-    {"image_ref_count", image_ref_count, METH_O, nullptr},
+    {"ref_count", ref_count, METH_VARARGS, nullptr},
+    {"null_pointer", null_pointer, METH_O, nullptr},
     {"make_state", make_state, METH_NOARGS, nullptr},
     {"make_mode_usage", make_mode_usage, METH_NOARGS, nullptr},
     {"recorded_modes", recorded_modes, METH_NOARGS, nullptr},
