@@ -41,6 +41,11 @@ class Quat:
     __swig_destroy__ = _osg.delete_Quat
 
 
+class Matrixd:
+    __swig_destroy__ = _osg.delete_Matrixd
+
+
+_osg.Matrixd_swigregister(Matrixd)
 _osg.Vec3f_swigregister(Vec3f)
 _osg.Vec3d_swigregister(Vec3d)
 _osg.Quat_swigregister(Quat)
@@ -56,6 +61,7 @@ p = Proxy()
 p.this = v
 q = _osg.new_Quat()
 axis3d = _osg.new_Vec3d(0.0, 0.0, 1.0)
+m = _osg.new_Matrixd(*range(16))
 
 
 # ---- timed loops: each runs its call n times with everything bound to locals ----------
@@ -112,6 +118,15 @@ def loop_make_rotate(n, f=_osg.Quat_makeRotate, a=q, angle=1.0, axis=axis3d):
         f(a, angle, axis)
 
 
+def loop_matrix_rotate(n, f=_osg.Matrixd_makeRotate, a=m, angle=1.0, axis=axis3d):
+    for _ in repeat(None, n):
+        f(a, angle, axis)
+
+
+loop_matrix_mul = two_args(_osg.Matrixd___mul__, m, axis3d)
+loop_get_trans = one_arg(_osg.Matrixd_getTrans, m)
+
+
 def loop_overload_error(n, new=_osg.new_Vec3f, E=TypeError):
     for _ in repeat(None, n):
         try:
@@ -133,6 +148,9 @@ CASES = [
     ("new_delete", "delete_Vec3f(new_Vec3f(1.0, 2.0, 3.0))", loop_new_delete, "new_delete"),
     ("new_drop", "new_Vec3f(1.0, 2.0, 3.0), dropped", loop_new_drop, "varargs"),
     ("make_rotate", "Quat_makeRotate(q, 1.0, axis3d)", loop_make_rotate, "varargs"),
+    ("matrix_mul", "Matrixd___mul__(m, v3d) -> shadow Vec3d, freed", loop_matrix_mul, "varargs"),
+    ("matrix_rotate", "Matrixd_makeRotate(m, 1.0, axis3d), 8 candidates", loop_matrix_rotate, "varargs"),
+    ("get_trans", "Matrixd_getTrans(m) -> shadow Vec3d, freed", loop_get_trans, "meth_o"),
     ("overload_error", "new_Vec3f(1, 2) -> TypeError, caught", loop_overload_error, "varargs"),
 ]
 GOALS = {"length_bare": 1.5, "length_proxy": 2.5}
@@ -184,7 +202,7 @@ def main():
     print(f"_osg call benchmark  (Python {sys.version.split()[0]}, {_osg.__file__})")
     print(f"{repeats} repeats x {calls:,} calls per case, interleaved; gc disabled while timing;")
     print(f"ns per call = median over repeats, empty-loop cost ({overhead:.1f} ns/iteration) subtracted;")
-    print("min..max is the spread of the repeats.  Vec3f, Vec3d and Quat are registered with")
+    print("min..max is the spread of the repeats.  Vec3f, Vec3d, Quat and Matrixd are registered with")
     print("__swig_destroy__ (owned results free their C++ object, by-value results are shadow instances).")
     print()
 

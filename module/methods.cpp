@@ -18,10 +18,8 @@ std::vector<PyMethodDef> build() {
     add_copyop_rows(t);
     add_vector_rows(t);
     add_quat_rows(t);
-    hooks<ty::p_osg__Matrixd, "Matrixd">(t);
-    hooks<ty::p_osg__Matrixf, "Matrixf">(t);
-    hooks<ty::p_osg__RefMatrixd, "RefMatrixd">(t);
-    hooks<ty::p_osg__RefMatrixf, "RefMatrixf">(t);
+    add_matrix_rows(t);
+    add_operator_rows(t);
     add_notify_rows(t);
     add_object_rows(t);
     add_dummy_object_rows(t);
@@ -41,7 +39,7 @@ std::vector<PyMethodDef> build() {
     hooks<ty::p_osg__MatrixTransform, "MatrixTransform">(t);
     hooks<ty::p_osg__AutoTransform, "AutoTransform">(t);
     hooks<ty::p_osg__PositionAttitudeTransform, "PositionAttitudeTransform">(t);
-    hooks<ty::p_osg__Plane, "Plane">(t);
+    add_plane_rows(t);
     add_clip_plane_rows(t);
     hooks<ty::p_osg__ClipNode, "ClipNode">(t);
     add_fog_rows(t);

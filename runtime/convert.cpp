@@ -23,7 +23,8 @@ SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
     return (SwigPyObject *)pyobj;
 }
 
-int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags) {
+static inline int convert_ptr(PyObject *obj, void **ptr, swig_type_info *ty, int flags, SwigPyObject **matched) {
+    *matched = nullptr;
     if (!obj) return SWIG_ERROR;
     // None: the general form leaves the out-pointer as the caller set it; the fixed
     // forms (swigrt.h) store null themselves.
@@ -52,8 +53,18 @@ int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, 
         }
     }
     if (!sobj) return SWIG_ERROR;
-    if (flags & SWIG_POINTER_DISOWN) sobj->own = 0;
+    if (flags & SWIG_POINTER_DISOWN) SwigPyObject_setown(sobj, 0);
+    *matched = sobj;
     return SWIG_OK;
+}
+
+int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags) {
+    SwigPyObject *matched;
+    return convert_ptr(obj, ptr, ty, flags, &matched);
+}
+
+int SWIG_Python_ConvertPtrMatch(PyObject *obj, void **ptr, swig_type_info *ty, int flags, SwigPyObject **matched) {
+    return convert_ptr(obj, ptr, ty, flags, matched);
 }
 
 PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_this) {

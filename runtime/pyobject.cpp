@@ -59,13 +59,22 @@ static PyObject *SwigPyObject_richcompare(PyObject *v, PyObject *w, int op) {
 
 static PyObject *SwigPyObject_long(PyObject *v) { return PyLong_FromVoidPtr(((SwigPyObject *)v)->ptr); }
 
+void SwigPyObject_setown(SwigPyObject *sobj, int own) {
+    // An owner holds one reference to the shared capsule, released when it dies owning;
+    // a change of ownership moves that reference with the flag, so it is never released
+    // by an object that did not take it, nor kept by one that gave ownership away.
+    if (own && !sobj->own) Py_XINCREF(Swig_Capsule_global);
+    if (!own && sobj->own) Py_XDECREF(Swig_Capsule_global);
+    sobj->own = own;
+}
+
 static PyObject *SwigPyObject_disown(PyObject *v, PyObject *) {
-    ((SwigPyObject *)v)->own = 0;
+    SwigPyObject_setown((SwigPyObject *)v, 0);
     Py_RETURN_NONE;
 }
 
 static PyObject *SwigPyObject_acquire(PyObject *v, PyObject *) {
-    ((SwigPyObject *)v)->own = SWIG_POINTER_OWN;
+    SwigPyObject_setown((SwigPyObject *)v, SWIG_POINTER_OWN);
     Py_RETURN_NONE;
 }
 
@@ -74,7 +83,7 @@ static PyObject *SwigPyObject_own(PyObject *v, PyObject *args) {
     if (!PyArg_UnpackTuple(args, "own", 0, 1, &val)) return nullptr;
     auto *sobj = (SwigPyObject *)v;
     PyObject *obj = PyBool_FromLong(sobj->own);
-    if (val) sobj->own = PyObject_IsTrue(val) ? SWIG_POINTER_OWN : 0;
+    if (val) SwigPyObject_setown(sobj, PyObject_IsTrue(val) ? SWIG_POINTER_OWN : 0);
     return obj;
 }
 
@@ -130,7 +139,8 @@ static void SwigPyObject_dealloc(PyObject *v) {
         } else {
             std::printf("swig/python detected a memory leak of type '%s', no destructor found.\n", SWIG_TypePrettyName(ty));
         }
-        Py_XDECREF(Swig_Capsule_global);
+        // A destroy function that disowned this object has released its capsule reference already.
+        if (sobj->own) Py_XDECREF(Swig_Capsule_global);
     }
     Py_XDECREF(next);
     PyObject_Free(v);
@@ -143,7 +153,8 @@ static PyMethodDef swigobject_methods[] = {
     {"own", SwigPyObject_own, METH_VARARGS, "returns/sets ownership of the pointer"},
     {"append", SwigPyObject_append, METH_O, "appends another 'this' object"},
     {"next", SwigPyObject_next, METH_NOARGS, "returns the next 'this' object"},
-    {"__repr__", SwigPyObject_repr2, METH_NOARGS, "returns object representation"},
+    // Coexisting, so that this entry and not the repr slot's wrapper is the visible __repr__.
+    {"__repr__", SwigPyObject_repr2, METH_NOARGS | METH_COEXIST, "returns object representation"},
     {nullptr, nullptr, 0, nullptr},
 };
 

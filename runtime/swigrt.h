@@ -148,6 +148,10 @@ void SwigPyClientData_Del(SwigPyClientData *data);
 
 SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj);
 int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags);
+// The same conversion, also reporting which pointer object of the chain matched (null for None).
+int SWIG_Python_ConvertPtrMatch(PyObject *obj, void **ptr, swig_type_info *ty, int flags, SwigPyObject **matched);
+// Sets the own flag, moving the owner's reference to the shared capsule with it.
+void SwigPyObject_setown(SwigPyObject *sobj, int own);
 PyObject *SWIG_Python_NewPointerObj(void *ptr, swig_type_info *type, int flags);
 PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_this);
 

@@ -4,10 +4,12 @@ vectors and Quat, written from OpenSceneGraph's headers.
 Argument codes say what a good call passes, argument 1 first: S self, s self of a const
 member, v another object of the row's class, D a fresh object of the row's class (for
 delete_), x a number, i an int, b True, t a str, n None, p the `_v_get` pointer of another
-object of the row's class, F a Vec3f, G a Vec3d, c a CopyOp, o a DummyObject, r a
-Referenced, h a notify handler; for the render state also f a Fog, K a Vec4f, H a Vec4d, and
-from the sibling module e a GLenum (GL_FOG), E a texture mode (GL_TEXTURE_2D), u an osg::Uniform::Type, z a std::string, a an osg::State,
-I an image and m a mode usage."""
+object of the row's class, F a Vec3f, G a Vec3d, E a Vec4f, H a Vec4d, Q a Quat, M a Matrixd,
+N a Matrixf, c a CopyOp, o a DummyObject, r a Referenced, h a notify handler, d and f the
+element pointers of a Matrixd and a Matrixf, L and K lists of Vec3f and Vec3d points, B a
+bounding sphere, X a bounding box; for the render state A a Fog, and from the sibling module
+e a GLenum (GL_FOG), T a texture mode (GL_TEXTURE_2D), u an osg::Uniform::Type, z a
+std::string, a an osg::State, I an image and m a mode usage."""
 from collections import namedtuple
 
 from engine_support import SIZE, VECTORS
@@ -15,7 +17,8 @@ from engine_support import SIZE, VECTORS
 # arg1: the spelling of argument 1 in messages; op: a binary operator answering NotImplemented.
 Row = namedtuple("Row", "name cls codes arg1 op")
 # protos: the prototype lines of the overload message (None for operators); goods: good calls.
-Disp = namedtuple("Disp", "name cls protos goods op")
+# static: a static member, which takes no object argument.
+Disp = namedtuple("Disp", "name cls protos goods op static", defaults=[False])
 
 
 def m(cls, suffix, codes, const=False, op=False):
@@ -136,6 +139,99 @@ def notify():
             free("delete_StandardNotifyHandler", "D", "osg::StandardNotifyHandler *", SH)]
 
 
+def matrix(M):
+    O, S = {"Matrixd": "Matrixf", "Matrixf": "Matrixd"}[M], f"osg::{M}"
+    vt, mr, f3, d3, f4, d4 = f"{S}::value_type", f"{S} const &", "osg::Vec3f const &", "osg::Vec3d const &", \
+        "osg::Vec4f const &", "osg::Vec4d const &"
+    e, q, fp, dp = "d" if M == "Matrixd" else "f", "osg::Quat const &", "float const *const", "double const *const"
+    vec3 = [[f3], [d3], [vt] * 3]
+    rot = [[f3, f3], [d3, d3], [vt, f3], [vt, d3], [vt] * 4, [q], [vt, f3] * 3, [vt, d3] * 3]
+
+    def disp(member, shapes, goods, const=False, static=False):
+        return Disp(f"{M}_{member}", M, protos(S, member, *shapes, const=const), goods, False, static)
+
+    def static(member, codes, arg1):
+        return free(f"{M}_{member}", codes, arg1, M)
+    rows = [Disp(f"new_{M}", M, protos(S, M, [], [mr], [f"osg::{O} const &"], [fp], [dp], [q], [vt] * 16),
+                 ["", "v", "Q", e, "x" * 16], False),
+            free(f"delete_{M}", "D", f"{S} *", M), m(M, "compare", "sv", True), m(M, "__call__", "sii", True),
+            disp("set", [[mr], [f"osg::{O} const &"], [fp], [dp], [vt] * 16], ["Sv", "S" + e, "S" + "x" * 16]),
+            pair(M, "ptr"), m(M, "makeIdentity", "S"), m(M, "makeLookAt", "SGGG"),
+            disp("makeScale", vec3, ["SF", "SG", "Sxxx"]), disp("makeTranslate", vec3, ["SF", "SG", "Sxxx"]),
+            disp("makeRotate", rot, ["SFF", "SxG", "Sxxxx", "SQ", "SxFxFxF"]),
+            disp("decompose", [["osg::Vec3f &", "osg::Quat &"] * 2, ["osg::Vec3d &", "osg::Quat &"] * 2],
+                 ["sFQFQ", "sGQGQ"], const=True),
+            disp("getPerspective", [["double &"] * 4, ["float &"] * 4], ["s" + e * 4], const=True),
+            disp("getLookAt", [["osg::Vec3f &"] * 3 + [vt], ["osg::Vec3f &"] * 3, ["osg::Vec3d &"] * 3 + [vt],
+                               ["osg::Vec3d &"] * 3], ["sFFFx", "sGGG"], const=True),
+            static("identity", "", None), disp("scale", vec3, ["F", "G", "xxx"], static=True),
+            disp("translate", vec3, ["F", "G", "xxx"], static=True),
+            disp("rotate", [rot[0], rot[1], rot[4], rot[2], rot[3], rot[6], rot[7], rot[5]],
+                 ["FF", "xxxx", "xG", "Q", "xFxFxF"], static=True),
+            disp("lookAt", [[f3] * 3, [d3] * 3], ["FFF", "GGG"], static=True),
+            disp("transform3x3", [[f3, mr], [d3, mr], [mr, f3], [mr, d3]], ["Fv", "Gv", "vF", "vG"], static=True),
+            m(M, "setRotate", "SQ"), disp("setTrans", [[vt] * 3, [f3], [d3]], ["Sxxx", "SF", "SG"]),
+            m(M, "mult", "Svv"), m(M, "preMultRotate", "SQ"), m(M, "postMultRotate", "SQ"),
+            Disp(f"{M}___mul__", M, None, ["sF", "sG", "sE", "sH", "sv"] + (["sx"] if O == "Matrixd" else []), True)]
+    rows += [disp(f, [["double &"] * 6, ["float &"] * 6], ["s" + e * 6], const=True) for f in ["getOrtho", "getFrustum"]]
+    rows += [Disp(f"{M}_{f}", M, protos(S, f, [f3], [d3], [f4], [d4], const=True) + protos(S, f, [mr]),
+                  ["sF", "sG", "sE", "sH", "Sv"], False) for f in ["preMult", "postMult"]]
+    rows += [disp(f, [[d3], [f3]], ["SG", "SF"]) for f in ["preMultTranslate", "postMultTranslate", "preMultScale",
+                                                          "postMultScale"]]
+    rows += [m(M, f, "s", True) for f in ["valid", "isNaN", "isIdentity", "getRotate", "getTrans", "getScale"]]
+    rows += [m(M, op, "sv", True, True) for op in ["__lt__", "__eq__", "__ne__"]]
+    rows += [m(M, f, "S" + "x" * n) for f, n in [("makeOrtho", 6), ("makeFrustum", 6), ("makeOrtho2D", 4),
+                                                  ("makePerspective", 4)]]
+    rows += [static(f, "x" * n, "double") for f, n in [("ortho", 6), ("frustum", 6), ("ortho2D", 4), ("perspective", 4)]]
+    rows += [static(f, "v", mr) for f in ["inverse", "orthoNormal"]]
+    rows += [m(M, f, "Sv") for f in ["invert", "invert_4x3", "invert_4x4", "transpose", "transpose3x3",
+                                      "orthoNormalize"]]
+    if O == "Matrixd":
+        return rows + [disp("__imul__", [[mr], [vt]], ["Sv", "Sx"])._replace(
+            protos=protos(S, "operator *=", [mr], [vt])), m(M, "__truediv__", "sx", True, True),
+            m(M, "__add__", "sv", True, True), m(M, "__itruediv__", "Sx"), m(M, "__iadd__", "Sv")]
+    return rows + [m(M, "__imul__", "Sv")]
+
+
+def ref_matrix(R):
+    M, O = R[3:], {"RefMatrixd": "Matrixf", "RefMatrixf": "Matrixd"}[R]
+    vt = f"osg::{M}::value_type"
+    return [Disp(f"new_{R}", R, protos(f"osg::{R}", R, [], [f"osg::{M} const &"], [f"osg::{O} const &"],
+                                       [f"{vt} const *const"], [f"osg::{R} const &"], [vt] * 16),
+                 ["", "M" if M == "Matrixd" else "N", "d" if M == "Matrixd" else "f", "x" * 16], False),
+            m(R, "clone", "sc", True), m(R, "isSameKindAs", "sn", True)] + \
+        [m(R, f, "s", True) for f in ["cloneType", "libraryName", "className"]]
+
+
+def plane():
+    P, vt, v3 = "osg::Plane", "osg::Plane::value_type", "osg::Plane::Vec3_type const &"
+    f4, d4 = "osg::Vec4f const &", "osg::Vec4d const &"
+    shapes = [[f4], [d4], [v3, vt], [v3] * 3, [v3] * 2]
+    rows = [Disp("new_Plane", "Plane", protos(P, "Plane", [], [f"{P} const &"], [vt] * 4, *shapes),
+                 ["", "v", "xxxx", "E", "H", "Gx", "GGG", "GG"], False),
+            Disp("Plane_set", "Plane", protos(P, "set", [f"{P} const &"], [vt] * 4, *shapes[:2], [v3, "double"],
+                                              *shapes[3:]), ["Sv", "Sxxxx", "SE", "SH", "SGx", "SGGG", "SGG"], False),
+            Disp("Plane_intersect", "Plane", protos(P, "intersect", ["std::vector< osg::Vec3f > const &"],
+                                                    ["std::vector< osg::Vec3d > const &"],
+                                                    ["osg::BoundingSphere const &"], ["osg::BoundingBox const &"],
+                                                    const=True), ["sL", "sK", "sB", "sX"], False),
+            free("delete_Plane", "D", "osg::Plane *", "Plane"), pair("Plane", "ptr"),
+            m("Plane", "transform", "SM"), m("Plane", "transformProvidingInverse", "SM")]
+    rows += [Disp(f"Plane_{f}", "Plane", protos(P, f, ["osg::Vec3f const &"], ["osg::Vec3d const &"], const=True),
+                  ["sF", "sG"], False) for f in ["distance", "dotProductNormal"]]
+    rows += [m("Plane", f, "S") for f in ["flip", "makeUnitLength", "calculateUpperLowerBBCorners"]]
+    rows += [m("Plane", f, "s", True) for f in ["valid", "isNaN", "asVec4", "getNormal"]]
+    return rows + [m("Plane", op, "sv", True, True) for op in ["__eq__", "__ne__", "__lt__"]]
+
+
+def operators():
+    order = ["Vec2f", "Vec3f", "Vec4f", "Vec2d", "Vec3d", "Vec4d"]
+    return [Disp("__mul__", None, None, ["FE", "EF", "GH", "FH", "GE", "HG", "HF", "EG", "FM", "GM", "EM", "HM", "FN",
+                                         "GN", "EN", "HN"], True)] + \
+        [Disp(f, None, [f"osg::{f}(osg::{v} const &,osg::{v} const &)" for v in order], ["FF", "GG", "EE", "HH"],
+              False) for f in ["componentMultiply", "componentDivide"]]
+
+
 def state_set():
     S, O = "StateSet", "osg::StateSet"
     cref, ui, ty, sa, ov, mv, st = ("osg::StateSet const &", "unsigned int", "osg::StateAttribute::Type",
@@ -149,19 +245,19 @@ def state_set():
         Disp("StateSet_getParents", S, [f"{O}::getParents() const", f"{O}::getParents()"], ["s"], False),
         pair(S, "getParent", ui, goods=()),
         m(S, "setMode", "Sei"), m(S, "removeMode", "Se"), m(S, "getMode", "se", True),
-        m(S, "setTextureMode", "SiEi"), m(S, "removeTextureMode", "SiE"), m(S, "getTextureMode", "siE", True),
-        Disp("StateSet_setAttribute", S, protos(O, "setAttribute", [sa, ov], [sa]), ["Sfi", "Sf"], False),
-        Disp("StateSet_setAttributeAndModes", S, protos(O, "setAttributeAndModes", [sa, mv], [sa]), ["Sfi", "Sf"], False),
-        Disp("StateSet_removeAttribute", S, protos(O, "removeAttribute", [ty, ui], [ty], [sa]), ["Sii", "Si", "Sf"], False),
+        m(S, "setTextureMode", "SiTi"), m(S, "removeTextureMode", "SiT"), m(S, "getTextureMode", "siT", True),
+        Disp("StateSet_setAttribute", S, protos(O, "setAttribute", [sa, ov], [sa]), ["SAi", "SA"], False),
+        Disp("StateSet_setAttributeAndModes", S, protos(O, "setAttributeAndModes", [sa, mv], [sa]), ["SAi", "SA"], False),
+        Disp("StateSet_removeAttribute", S, protos(O, "removeAttribute", [ty, ui], [ty], [sa]), ["Sii", "Si", "SA"], False),
         Disp("StateSet_setTextureAttribute", S, protos(O, "setTextureAttribute", [ui, sa, ov], [ui, sa]), ["Sini", "Sin"],
              False),
         Disp("StateSet_setTextureAttributeAndModes", S, protos(O, "setTextureAttributeAndModes", [ui, sa, mv], [ui, sa]),
              ["Sini", "Sin"], False),  # a fog is no texture attribute: OSG would warn on each call
-        Disp("StateSet_removeTextureAttribute", S, protos(O, "removeTextureAttribute", [ui, ty], [ui, sa]), ["Sii", "Sif"],
+        Disp("StateSet_removeTextureAttribute", S, protos(O, "removeTextureAttribute", [ui, ty], [ui, sa]), ["Sii", "SiA"],
              False),
         pair(S, "getTextureAttribute", ui, ty, goods=["Sii"]), pair(S, "getTextureAttributePair", ui, ty, goods=["Sii"]),
-        m(S, "setAssociatedModes", "Sfi"), m(S, "removeAssociatedModes", "Sf"),
-        m(S, "setAssociatedTextureModes", "Sifi"), m(S, "removeAssociatedTextureModes", "Sif"),
+        m(S, "setAssociatedModes", "SAi"), m(S, "removeAssociatedModes", "SA"),
+        m(S, "setAssociatedTextureModes", "SiAi"), m(S, "removeAssociatedTextureModes", "SiA"),
         Disp("StateSet_addUniform", S, protos(O, "addUniform", ["osg::Uniform *", ov], ["osg::Uniform *"]), ["Sni", "Sn"], False),
         Disp("StateSet_removeUniform", S, protos(O, "removeUniform", [st], ["osg::Uniform *"]), ["Sz", "Sn"], False),
         Disp("StateSet_getOrCreateUniform", S, protos(O, "getOrCreateUniform", [st, "osg::Uniform::Type", ui],
@@ -214,7 +310,7 @@ def attributes():
            "Viewport": (True, False, False)}
     for C, (typ, member, modes) in own.items():
         O, cref = f"osg::{C}", f"osg::{C} const &"
-        rows += [m(C, "clone", "sc", True), m(C, "isSameKindAs", "so", True), m(C, "compare", "sf", True),
+        rows += [m(C, "clone", "sc", True), m(C, "isSameKindAs", "so", True), m(C, "compare", "sA", True),
                  m(C, "apply", "sa", True)] + [m(C, f, "s", True) for f in ["cloneType", "libraryName", "className"]]
         rows += ([m(C, "getType", "s", True)] if typ else []) + ([m(C, "getMember", "s", True)] if member else [])
         rows += [m(C, "getModeUsage", "sm", True)] if modes else []
@@ -226,7 +322,7 @@ def attributes():
         rows.append(Disp(f"new_{C}", C, protos(O, C, [], *ctors[0], [cref, cp], [cref]), ctors[1], False))
     F, CM, CP, VP = "Fog", "ColorMask", "ClipPlane", "Viewport"
     rows += [m(F, "setMode", "Si"), m(F, "setDensity", "Sx"), m(F, "setStart", "Sx"), m(F, "setEnd", "Sx"),
-             m(F, "setColor", "SK"), m(F, "setUseRadialFog", "Sb"), m(F, "setFogCoordinateSource", "Si")]
+             m(F, "setColor", "SE"), m(F, "setUseRadialFog", "Sb"), m(F, "setFogCoordinateSource", "Si")]
     rows += [m(F, f"get{g}", "s", True) for g in ["Mode", "Density", "Start", "End", "Color", "UseRadialFog",
                                                     "FogCoordinateSource"]]
     rows += [m(CM, "setMask", "Sbbbb")] + [m(CM, f"{a}{c}Mask", "Sb" if a == "set" else "s", a == "get")
@@ -243,7 +339,7 @@ def texture():
     rows = [
         Disp("new_Texture2D", T, protos(O, T, [], [img], ["osg::Texture2D const &", "osg::CopyOp const &"],
                                         ["osg::Texture2D const &"]), ["", "n", "I", "vc", "v"], False),
-        m(T, "compare", "sf", True), m(T, "isDirty", "si", True), m(T, "getModifiedCount", "si", True),
+        m(T, "compare", "sA", True), m(T, "isDirty", "si", True), m(T, "getModifiedCount", "si", True),
         Disp("Texture2D_setImage", T, protos(O, "setImage", [img], [ui, img]), ["SI", "SiI"], False),
         Disp("Texture2D_getImage", T, protos(O, "getImage", []) + protos(O, "getImage", [], const=True) +
              protos(O, "getImage", [ui]) + protos(O, "getImage", [ui], const=True), ["S", "Si"], False),
@@ -255,7 +351,9 @@ def texture():
 
 
 STATE = state_set() + attributes() + texture()
-ALL = [r for V in VECTORS for r in vector(V)] + quat() + base() + notify() + STATE
+
+ALL = [r for V in VECTORS for r in vector(V)] + quat() + base() + notify() + matrix("Matrixd") + matrix("Matrixf") + \
+    ref_matrix("RefMatrixd") + ref_matrix("RefMatrixf") + plane() + operators() + STATE
 ROWS = [r for r in ALL if isinstance(r, Row)]
 DISPATCHERS = [d for d in ALL if isinstance(d, Disp)]
 BY_NAME = {r.name: r for r in ALL}

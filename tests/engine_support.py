@@ -19,7 +19,12 @@ SwigPyObject = type(_osg.notify())
 VECTORS = ["Vec2f", "Vec3f", "Vec4f", "Vec2d", "Vec3d", "Vec4d"]
 SIZE = {**{v: int(v[3]) for v in VECTORS}, "Quat": 4}
 ELEMENT = {**{v: "float" if v.endswith("f") else "double" for v in VECTORS}, "Quat": "double"}
-_DESTROY = {**{f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["Quat", "CopyOp"]},
+_DESTROY = {**{f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["Quat", "CopyOp", "Matrixd", "Matrixf",
+                                                                            "Plane"]},
+            # No delete function: the object part is at the start, so a Referenced proxy of the
+            # same address gives up the last reference.
+            **{f"osg::{c} *": lambda p: (p.disown(), free_borrowed(_osgpeer.new_pointer(int(p), "_p_osg__Referenced", 0)))
+               for c in ["RefMatrixd", "RefMatrixf"]},
             **{f"osg::{c} *": _osg.delete_Referenced for c in ["Referenced", "DummyObject"]},
             "osg::StandardNotifyHandler *": _osg.delete_StandardNotifyHandler}
 # Render state: attributes and state sets release one reference; textures and pairs only the

@@ -9,13 +9,16 @@ from engine_support import SwigPyObject, _osg, _osgpeer, free_borrowed, heap_byt
 
 N = 4000
 NUMBERS = {"x": 1.0, "i": 0, "b": True, "t": "name", "n": None}
-NAMED = {"F": "Vec3f", "G": "Vec3d", "c": "CopyOp", "o": "DummyObject", "r": "Referenced", "h": "StandardNotifyHandler"}
-NAMED.update({"f": "Fog", "K": "Vec4f", "H": "Vec4d"})
+NAMED = {"F": "Vec3f", "G": "Vec3d", "E": "Vec4f", "H": "Vec4d", "Q": "Quat", "M": "Matrixd", "N": "Matrixf",
+         "c": "CopyOp", "o": "DummyObject", "r": "Referenced", "h": "StandardNotifyHandler"}
+# Values made by the sibling module, and element pointers of a matrix.
+VALUES = {"L": lambda: _osgpeer.points(False, [0, 0, 0, 1, 1, 1]), "K": lambda: _osgpeer.points(True, [0, 0, 0]),
+          "B": lambda: _osgpeer.bounding_sphere(0, 0, 0, 1), "X": lambda: _osgpeer.bounding_box(0, 0, 0, 1, 1, 1)}
+NAMED.update({"A": "Fog"})
 # Render-state values only the sibling module makes.
-PEER = {"e": lambda: _osgpeer.make_glenum(0x0B60), "E": lambda: _osgpeer.make_glenum(0x0DE1),
-        "u": lambda: _osgpeer.make_uniform_type(0x1406),
-        "z": lambda: _osgpeer.make_string("name"), "a": _osgpeer.make_state, "I": lambda: _osgpeer.make_image(4, 4),
-        "m": _osgpeer.make_mode_usage}
+VALUES.update({"e": lambda: _osgpeer.make_glenum(0x0B60), "T": lambda: _osgpeer.make_glenum(0x0DE1),
+               "u": lambda: _osgpeer.make_uniform_type(0x1406), "z": lambda: _osgpeer.make_string("name"),
+               "a": _osgpeer.make_state, "I": lambda: _osgpeer.make_image(4, 4), "m": _osgpeer.make_mode_usage})
 # Good calls needing a partner call to leave the state as it was.
 PAIRED = {"intrusive_ptr_add_ref": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
           "intrusive_ptr_release": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
@@ -26,7 +29,7 @@ SAME_AGAIN = {"setNotifyLevel": lambda: _osg.setNotifyLevel(_osg.getNotifyLevel(
               "setNotifyHandler": lambda: _osg.setNotifyHandler(_osg.getNotifyHandler())}
 # No good call: the handlers print each message; std::string has no destroy function; Quat_get needs a matrix.
 NO_GOOD_CALL = {"NotifyHandler_notify", "StandardNotifyHandler_notify", "Object_getCompoundClassName", "Quat_get"}
-CLONES = {"Object_clone", "Object_cloneType", "DummyObject_clone", "DummyObject_cloneType"}
+CLONES = {f"{c}_{f}" for c in ["Object", "DummyObject", "RefMatrixd", "RefMatrixf"] for f in ["clone", "cloneType"]}
 # No good call: GL work needs a context; container setters take the getters' results (tested apart).
 NO_GOOD_CALL |= {f"{c}_apply" for c in ["StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"]}
 NO_GOOD_CALL |= {"Texture2D_copyTexImage2D", "Texture2D_copyTexSubImage2D", "Viewport_computeWindowMatrix"}
@@ -49,8 +52,11 @@ class Env:
     def arg(self, code):
         if code in NUMBERS:
             return NUMBERS[code]
-        if code in PEER:
-            return PEER[code]()
+        if code in VALUES or code in "df":
+            if code not in self.objects:
+                self.objects[code] = VALUES[code]() if code in VALUES else \
+                    getattr(_osg, f"Matrix{code}_ptr")(self.arg("M" if code == "d" else "N"))
+            return self.objects[code]
         key = (NAMED.get(code, self.cls), code in "vp")
         if key not in self.objects:
             self.objects[key] = self.mk(self.make(key[0]))

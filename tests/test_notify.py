@@ -18,6 +18,8 @@ def test_severity_constants():
 
 def test_level_is_passed_on_unchecked(level):
     assert _osg.setNotifyLevel(99) is None and _osg.getNotifyLevel() == 99
+    _osg.setNotifyLevel(-1)  # enumerations read back signed
+    assert _osg.getNotifyLevel() == -1
     _osg.setNotifyLevel(_osg.WARN)
     assert [_osg.isNotifyEnabled(s) for s in (_osg.FATAL, _osg.WARN, _osg.INFO)] == [True, True, False]
     raises(OverflowError, "in method 'setNotifyLevel', argument 1 of type 'osg::NotifySeverity'",

@@ -26,6 +26,7 @@ def test_repr_shows_last_spelling_and_the_chain():
     first, second = pointer(0x10), pointer(0x20, "_p_osg__Node")
     head = f"<Swig Object of type 'osg::Matrixd *' at {hex(id(first))}>"
     assert repr(first) == first.__repr__() == head
+    assert type(first).__dict__["__repr__"].__doc__ == "returns object representation"
     first.append(second)
     assert repr(first) == head + f"<Swig Object of type 'osg::Node *' at {hex(id(second))}>"
 

@@ -5,10 +5,11 @@ import pytest
 from engine_rows import BY_NAME, ROWS
 from engine_support import VECTORS, _osg, mk, raises  # noqa: F401  (mk is a fixture)
 
-CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS}
+CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS,
+           "Matrixd", "Matrixf", "RefMatrixd", "RefMatrixf", "Plane"}
 CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
-          "getNotifyHandler"}
+          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide"}
 
 
 def in_scope(name):
@@ -108,6 +109,8 @@ def test_numbers_and_pointers_accepted(mk):
     assert _osg.CopyOp_getCopyFlags(c) == 2**32 - 1
     _osg.Object_setDataVariance(d, True)
     assert _osg.Object_getDataVariance(d) == 1
+    _osg.Object_setDataVariance(d, -5)
+    assert _osg.Object_getDataVariance(d) == -5
     assert _osg.DummyObject_isSameKindAs(d, None) is False  # None is a null pointer, passed on
     assert _osg.Referenced_setDeleteHandler(None) is None and _osg.Referenced_getDeleteHandler() is None
 

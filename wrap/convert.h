@@ -37,6 +37,16 @@ struct Arg<T *> {
         out = static_cast<T *>(p);
         return true;
     }
+    // The object of an in-place operator: the matched pointer object is reported too, so
+    // that its ownership can move once every other argument has converted.
+    template <class M>
+    static bool convert_self(PyObject *o, Store &out, SwigPyObject *&matched) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrMatch(o, &p, descriptor<T>(), 0, &matched) != SWIG_OK)
+            return fail(PyExc_TypeError, M::plain.v);
+        out = static_cast<T *>(p);
+        return true;
+    }
     static bool test(PyObject *o) {
         void *p;
         return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;
@@ -238,7 +248,10 @@ PyObject *to_python(R &&r) {
         return PyLong_FromUnsignedLong(r);
     } else if constexpr ((std::is_unsigned_v<T>)&&!std::is_reference_v<R>) {
         return PyLong_FromSize_t(r);
-    } else if constexpr ((std::is_integral_v<T> || std::is_enum_v<T>)&&!std::is_reference_v<R>) {
+    } else if constexpr (std::is_enum_v<T> && !std::is_reference_v<R>) {
+        // Enumerations read back signed, whatever underlying type the compiler chose.
+        return PyLong_FromLong(static_cast<int>(r));
+    } else if constexpr (std::is_integral_v<T> && !std::is_reference_v<R>) {
         return PyLong_FromLong(static_cast<long>(r));
     } else if constexpr (std::is_same_v<T, const char *> || std::is_same_v<T, char *>) {
         if (!r) Py_RETURN_NONE;

@@ -51,6 +51,13 @@ template <> inline constexpr int descriptor_of<osg::Vec4d> = ty::p_osg__Vec4d;
 template <> inline constexpr int descriptor_of<osg::Quat> = ty::p_osg__Quat;
 template <> inline constexpr int descriptor_of<osg::Matrixd> = ty::p_osg__Matrixd;
 template <> inline constexpr int descriptor_of<osg::Matrixf> = ty::p_osg__Matrixf;
+template <> inline constexpr int descriptor_of<osg::RefMatrixd> = ty::p_osg__RefMatrixd;
+template <> inline constexpr int descriptor_of<osg::RefMatrixf> = ty::p_osg__RefMatrixf;
+template <> inline constexpr int descriptor_of<osg::Plane> = ty::p_osg__Plane;
+template <> inline constexpr int descriptor_of<osg::BoundingSphere> = ty::p_osg__BoundingSphereImplT_osg__Vec3d_t;
+template <> inline constexpr int descriptor_of<osg::BoundingBox> = ty::p_osg__BoundingBoxImplT_osg__Vec3d_t;
+template <> inline constexpr int descriptor_of<std::vector<osg::Vec3f>> = ty::p_std__vectorT_osg__Vec3f_t;
+template <> inline constexpr int descriptor_of<std::vector<osg::Vec3d>> = ty::p_std__vectorT_osg__Vec3d_t;
 template <> inline constexpr int descriptor_of<std::string> = ty::p_std__string;
 template <> inline constexpr int descriptor_of<std::ostream> = ty::p_std__ostream;
 // Render state: attributes, texture, and the state set's opaque containers and callbacks.
@@ -75,7 +82,6 @@ template <> inline constexpr int descriptor_of<osg::StateSet::RefUniformPair> = 
 template <> inline constexpr int descriptor_of<osg::StateSet::DefinePair> = ty::p_std__pairT_std__string_unsigned_int_t;
 // Also osg::NodePath: the state set's parents and a node path are the same vector type.
 template <> inline constexpr int descriptor_of<osg::StateSet::ParentList> = ty::p_std__vectorT_osg__Node_p_t;
-template <> inline constexpr int descriptor_of<osg::Plane> = ty::p_osg__Plane;
 // Element pointers and out-parameters.
 template <> inline constexpr int descriptor_of<double> = ty::p_double;
 template <> inline constexpr int descriptor_of<float> = ty::p_float;

@@ -113,7 +113,7 @@ constexpr auto returns_handle = []<class... A>(List<A...>) {
 enum class Result {
     Plain,    // by the result type: borrowed pointers and references, owned copies of values
     New,      // constructor: owned, no shadow instance
-    InPlace,  // in-place operator: argument 1 disowned, the same pointer returned owned
+    InPlace,  // in-place operator: argument 1 disowned, the same pointer returned as it was owned
     Disown,   // destroy: argument 1 converted with the disown flag
 };
 
@@ -177,13 +177,19 @@ struct Call {
         template <std::size_t... I>
         static PyObject *call(PyObject *const *argv, std::index_sequence<I...>) {
             std::tuple<typename Arg<A>::Store...> v{};
+            [[maybe_unused]] SwigPyObject *self = nullptr;
             // && folds left to right and stops at the first failure.
-            if (!(convert<I, A>(argv[I], std::get<I>(v)) && ...)) return nullptr;
+            if (!(convert<I, A>(argv[I], std::get<I>(v), self) && ...)) return nullptr;
             if constexpr (P.result == Result::InPlace) {
-                // Only now that every argument converted does the incoming proxy give up ownership.
-                SWIG_Python_ConvertPtrAndOwn(argv[0], nullptr, descriptor_for<0>(), SWIG_POINTER_DISOWN);
-            }
-            if constexpr (std::is_void_v<Ret> && P.result != Result::InPlace) {
+                // Only now that every argument converted does the incoming proxy give up
+                // ownership, and the result owns exactly when it did: a borrowed proxy (of a
+                // global's or a member's storage) must not turn into an owner of memory this
+                // module never allocated, so a borrowed argument gives a borrowed result.
+                int owned = self ? self->own : 0;
+                if (self) SwigPyObject_setown(self, 0);
+                std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
+                return SWIG_Python_NewPointerObj(address(std::get<0>(v)), descriptor_for<0>(), owned);
+            } else if constexpr (std::is_void_v<Ret> && P.result != Result::InPlace) {
                 std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
                 Py_RETURN_NONE;
             } else if constexpr (P.result == Result::New) {
@@ -192,9 +198,6 @@ struct Call {
                 if constexpr (P.take_ref == TakeRef::Count) p->ref();
                 if constexpr (P.take_ref == TakeRef::Group) osg::Group_reference(p);
                 return obj;
-            } else if constexpr (P.result == Result::InPlace) {
-                std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
-                return SWIG_Python_NewPointerObj(address(std::get<0>(v)), descriptor_for<0>(), SWIG_POINTER_OWN);
             } else {
                 return to_python<Ret>(std::invoke(fn, Arg<A>::get(std::get<I>(v))...));
             }
@@ -207,9 +210,14 @@ struct Call {
         }
 
         template <std::size_t I, class A1>
-        static bool convert(PyObject *o, typename Arg<A1>::Store &out) {
-            constexpr int flags = (I == 0 && P.result == Result::Disown) ? SWIG_POINTER_DISOWN : 0;
-            return Arg<A1>::template convert<ArgText<Name, I + 1, spelling<I>()>>(o, out, flags);
+        static bool convert(PyObject *o, typename Arg<A1>::Store &out, SwigPyObject *&self) {
+            using M = ArgText<Name, I + 1, spelling<I>()>;
+            if constexpr (I == 0 && P.result == Result::InPlace) {
+                return Arg<A1>::template convert_self<M>(o, out, self);
+            } else {
+                constexpr int flags = (I == 0 && P.result == Result::Disown) ? SWIG_POINTER_DISOWN : 0;
+                return Arg<A1>::template convert<M>(o, out, flags);
+            }
         }
 
         static bool test(PyObject *const *argv) {
@@ -420,6 +428,33 @@ constexpr Row overload() {
 template <Text Qualified, auto F, Text... Spell>
 using fc = Cand<prototype<Qualified, false, Spell...>(), F, Spell...>;
 
+// A free binary operator: when no candidate matches, NotImplemented.
+template <Text Name, class... C>
+constexpr Row overload_op() {
+    return row<Dispatch<Name, binary_op, Order<>, C...>, Name>();
+}
+
+// For families written as templates over the class: K's candidates without
+// `typename K::template` at every use.
+template <class K, Text Member, auto F, Text... Spell>
+using mem = typename K::template m<Member, F, Spell...>;
+template <class K, Text Member, auto F, Text... Spell>
+using smem = typename K::template sm<Member, F, Spell...>;
+template <class K, class Args, Text... Spell>
+struct CtorOf;
+template <class K, class... A, Text... Spell>
+struct CtorOf<K, List<A...>, Spell...> {
+    using type = typename K::template with<A...>::template c<Spell...>;
+};
+template <class K, class Args, Text... Spell>
+using ctor_of = typename CtorOf<K, Args, Spell...>::type;
+
+// The same type N times, for long uniform signatures: Same<I, T>... over an index sequence.
+template <std::size_t, class T>
+using Same = T;
+template <std::size_t, Text S>
+inline constexpr auto same_text = S;
+
 // Rows of one wrapped class T, spelled `Spelling` in messages, whose Python names are
 // "<Prefix>_<suffix>". Argument 1 of a member is spelled "<Spelling> *", or
 // "<Spelling> const *" for a const member.
@@ -479,6 +514,9 @@ struct Class {
     // A candidate member named `Member` in the prototype.
     template <Text Member, auto F, Text... Spell>
     using m = Cand<prototype<cat(Spelling, Text("::"), Member), const_self<F>, Spell...>(), F, self<F>(), Spell...>;
+    // A candidate static member: no object argument.
+    template <Text Member, auto F, Text... Spell>
+    using sm = Cand<prototype<cat(Spelling, Text("::"), Member), false, Spell...>(), F, Spell...>;
     // A candidate constructor taking A..., spelled Spell...
     template <class... A>
     struct with {

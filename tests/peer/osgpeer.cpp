@@ -3,11 +3,15 @@
 // and exposes the shared runtime's internals that Python cannot otherwise see.
 #include "runtime/swigrt.h"
 
+#include <osg/BoundingBox>
+#include <osg/BoundingSphere>
 #include <osg/Matrixd>
 #include <osg/Matrixf>
 #include <osg/Node>
 #include <osg/Vec3f>
+#include <deque>
 #include <string>
+#include <vector>
 
 // state values
 #include <osg/Image>
@@ -15,7 +19,6 @@
 #include <osg/StateSet>
 #include <osg/Texture2D>
 #include <set>
-#include <vector>
 
 namespace peer {
 struct SpecialNode : osg::Node {};
@@ -124,6 +127,52 @@ PyObject *special_node(PyObject *, PyObject *) {
 PyObject *glenum_ptr(PyObject *, PyObject *) {
     static unsigned int value = 0x0B60;
     return SWIG_Python_NewPointerObj(&value, types[GLenum_], 0);
+}
+
+// ---- math values _osg takes but cannot make: kept for the life of the process, handed out
+// borrowed under the descriptors _osg registered --------------------------------------------
+
+template <class T>
+PyObject *keep(T value, const char *type) {
+    static std::deque<T> kept;
+    swig_type_info *t = find_or_raise(type);
+    if (!t) return nullptr;
+    kept.push_back(std::move(value));
+    return SWIG_Python_NewPointerObj(&kept.back(), t, 0);
+}
+
+// points(double?, (x, y, z, x, y, z, ...)): a std::vector of Vec3d or Vec3f.
+PyObject *points(PyObject *, PyObject *args) {
+    int as_double;
+    PyObject *seq;
+    if (!PyArg_ParseTuple(args, "pO", &as_double, &seq)) return nullptr;
+    PyObject *fast = PySequence_Fast(seq, "a sequence of numbers");
+    if (!fast) return nullptr;
+    std::vector<double> c;
+    for (Py_ssize_t i = 0; i < PySequence_Fast_GET_SIZE(fast); ++i)
+        c.push_back(PyFloat_AsDouble(PySequence_Fast_GET_ITEM(fast, i)));
+    Py_DECREF(fast);
+    if (PyErr_Occurred()) return nullptr;
+    if (as_double) {
+        std::vector<osg::Vec3d> v;
+        for (size_t i = 0; i + 2 < c.size(); i += 3) v.emplace_back(c[i], c[i + 1], c[i + 2]);
+        return keep(std::move(v), "_p_std__vectorT_osg__Vec3d_t");
+    }
+    std::vector<osg::Vec3f> v;
+    for (size_t i = 0; i + 2 < c.size(); i += 3) v.emplace_back(c[i], c[i + 1], c[i + 2]);
+    return keep(std::move(v), "_p_std__vectorT_osg__Vec3f_t");
+}
+
+PyObject *bounding_sphere(PyObject *, PyObject *args) {
+    double x, y, z, r;
+    if (!PyArg_ParseTuple(args, "dddd", &x, &y, &z, &r)) return nullptr;
+    return keep(osg::BoundingSphere(osg::Vec3d(x, y, z), r), "_p_osg__BoundingSphereImplT_osg__Vec3d_t");
+}
+
+PyObject *bounding_box(PyObject *, PyObject *args) {
+    double a, b, c, d, e, f;
+    if (!PyArg_ParseTuple(args, "dddddd", &a, &b, &c, &d, &e, &f)) return nullptr;
+    return keep(osg::BoundingBox(a, b, c, d, e, f), "_p_osg__BoundingBoxImplT_osg__Vec3d_t");
 }
 
 // ---- state values: handles, strings, images and states that _osg cannot make ----------
@@ -523,6 +572,9 @@ PyMethodDef methods[] = {
     {"read_vec3f", read_vec3f, METH_O, nullptr},
     {"special_node", special_node, METH_NOARGS, nullptr},
     {"glenum_ptr", glenum_ptr, METH_NOARGS, nullptr},
+    {"points", points, METH_VARARGS, nullptr},
+    {"bounding_sphere", bounding_sphere, METH_VARARGS, nullptr},
+    {"bounding_box", bounding_box, METH_VARARGS, nullptr},
     {"ring_tables", ring_tables, METH_NOARGS, nullptr},
     {"own_module", own_module, METH_NOARGS, nullptr},
     {"cast_list", cast_list, METH_O, nullptr},
