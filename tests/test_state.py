@@ -234,12 +234,14 @@ def test_attribute_values(mk):
 
 def test_clip_planes_and_viewports(mk):
     for args, want in [((1, mk.Vec4d(1, 2, 3, 4)), [1, 2, 3, 4]), ((1, 0.5, 0, 0, 2), [0.5, 0, 0, 2]),
-                       ((7,), [0, 0, 0, 0])]:
+                       ((2, mk.Plane(0, 0, 2, 1)), [0, 0, 2, 1]), ((7,), [0, 0, 0, 0])]:
         cp = mk.ClipPlane(*args)
         assert (_osg.ClipPlane_getClipPlaneNum(cp), _osg.ClipPlane_getMember(cp), four(_osg.ClipPlane_getClipPlane(cp))) \
             == (args[0], args[0], want)
-    _osg.ClipPlane_setClipPlane(cp, 1, 2, 3, 4)
+    _osg.ClipPlane_setClipPlane(cp, mk.Plane(1, 0, 0, 5))
     held = _osg.ClipPlane_getClipPlane(cp)
+    assert four(held) == [1, 0, 0, 5]
+    _osg.ClipPlane_setClipPlane(cp, 1, 2, 3, 4)
     _osg.ClipPlane_setClipPlane(cp, mk.Vec4d(4, 3, 2, 1))
     _osg.ClipPlane_setClipPlaneNum(cp, 4)
     assert (four(held), _osg.StateAttribute_getMember(cp), held.own()) == ([4, 3, 2, 1], 4, False)
