@@ -24,11 +24,11 @@ std::vector<PyMethodDef> build() {
     add_object_rows(t);
     add_dummy_object_rows(t);
     add_node_rows(t);
-    hooks<ty::p_osg__Texture2D, "Texture2D">(t);
-    hooks<ty::p_osg__StateSet, "StateSet">(t);
-    hooks<ty::p_osg__StateAttribute, "StateAttribute", false>(t);
-    hooks<ty::p_osg__ColorMask, "ColorMask">(t);
-    hooks<ty::p_osg__Viewport, "Viewport">(t);
+    add_texture2d_rows(t);
+    add_state_set_rows(t);
+    add_state_attribute_rows(t);
+    add_color_mask_rows(t);
+    add_viewport_rows(t);
     add_group_rows(t);
     hooks<ty::p_osg__Camera, "Camera">(t);
     hooks<ty::p_osg__CameraRenderOrderSortOp, "CameraRenderOrderSortOp">(t);
@@ -40,9 +40,9 @@ std::vector<PyMethodDef> build() {
     add_auto_transform_rows(t);
     add_position_attitude_transform_rows(t);
     add_plane_rows(t);
-    hooks<ty::p_osg__ClipPlane, "ClipPlane">(t);
+    add_clip_plane_rows(t);
     add_clip_node_rows(t);
-    hooks<ty::p_osg__Fog, "Fog">(t);
+    add_fog_rows(t);
     t.push_back({nullptr, nullptr, 0, nullptr});
     return t;
 }

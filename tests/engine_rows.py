@@ -7,7 +7,9 @@ delete_), x a number, i an int, b True, t a str, n None, p the `_v_get` pointer 
 object of the row's class, F a Vec3f, G a Vec3d, E a Vec4f, H a Vec4d, Q a Quat, M a Matrixd,
 N a Matrixf, c a CopyOp, o a DummyObject, r a Referenced, h a notify handler, d and f the
 element pointers of a Matrixd and a Matrixf, L and K lists of Vec3f and Vec3d points, B a
-bounding sphere, X a bounding box."""
+bounding sphere, X a bounding box; for the render state A a Fog, and from the sibling module
+e a GLenum (GL_FOG), T a texture mode (GL_TEXTURE_2D), u an osg::Uniform::Type, z a
+std::string, a an osg::State, I an image and m a mode usage."""
 from collections import namedtuple
 
 from engine_support import SIZE, VECTORS
@@ -31,9 +33,10 @@ def protos(owner, member, *shapes, const=False):
     return [f"{owner}::{member}({','.join(s)})" + (" const" if const else "") for s in shapes]
 
 
-def pair(cls, member):
+def pair(cls, member, *args, goods=("S",)):
     """A non-const/const accessor pair; the non-const member is listed first."""
-    return Disp(f"{cls}_{member}", cls, [f"osg::{cls}::{member}()", f"osg::{cls}::{member}() const"], ["S"], False)
+    return Disp(f"{cls}_{member}", cls, protos(f"osg::{cls}", member, args) + protos(f"osg::{cls}", member, args, const=True),
+                list(goods), False)
 
 
 def vector(V):
@@ -229,8 +232,128 @@ def operators():
               False) for f in ["componentMultiply", "componentDivide"]]
 
 
+def state_set():
+    S, O = "StateSet", "osg::StateSet"
+    cref, ui, ty, sa, ov, mv, st = ("osg::StateSet const &", "unsigned int", "osg::StateAttribute::Type",
+                                    "osg::StateAttribute *", "osg::StateAttribute::OverrideValue",
+                                    "osg::StateAttribute::GLModeValue", "std::string const &")
+    rows = [
+        Disp("new_StateSet", S, protos(O, S, [], [cref, "osg::CopyOp const &"], [cref]), ["", "vc", "v"], False),
+        m(S, "clone", "sc", True), m(S, "isSameKindAs", "so", True), m(S, "merge", "Sv"),
+        Disp("StateSet_compare", S, protos(O, "compare", [cref, "bool"], [cref], const=True), ["svb", "sv"], False),
+        pair(S, "asStateSet"),
+        Disp("StateSet_getParents", S, [f"{O}::getParents() const", f"{O}::getParents()"], ["s"], False),
+        pair(S, "getParent", ui, goods=()),
+        m(S, "setMode", "Sei"), m(S, "removeMode", "Se"), m(S, "getMode", "se", True),
+        m(S, "setTextureMode", "SiTi"), m(S, "removeTextureMode", "SiT"), m(S, "getTextureMode", "siT", True),
+        Disp("StateSet_setAttribute", S, protos(O, "setAttribute", [sa, ov], [sa]), ["SAi", "SA"], False),
+        Disp("StateSet_setAttributeAndModes", S, protos(O, "setAttributeAndModes", [sa, mv], [sa]), ["SAi", "SA"], False),
+        Disp("StateSet_removeAttribute", S, protos(O, "removeAttribute", [ty, ui], [ty], [sa]), ["Sii", "Si", "SA"], False),
+        Disp("StateSet_setTextureAttribute", S, protos(O, "setTextureAttribute", [ui, sa, ov], [ui, sa]), ["Sini", "Sin"],
+             False),
+        Disp("StateSet_setTextureAttributeAndModes", S, protos(O, "setTextureAttributeAndModes", [ui, sa, mv], [ui, sa]),
+             ["Sini", "Sin"], False),  # a fog is no texture attribute: OSG would warn on each call
+        Disp("StateSet_removeTextureAttribute", S, protos(O, "removeTextureAttribute", [ui, ty], [ui, sa]), ["Sii", "SiA"],
+             False),
+        pair(S, "getTextureAttribute", ui, ty, goods=["Sii"]), pair(S, "getTextureAttributePair", ui, ty, goods=["Sii"]),
+        m(S, "setAssociatedModes", "SAi"), m(S, "removeAssociatedModes", "SA"),
+        m(S, "setAssociatedTextureModes", "SiAi"), m(S, "removeAssociatedTextureModes", "SiA"),
+        Disp("StateSet_addUniform", S, protos(O, "addUniform", ["osg::Uniform *", ov], ["osg::Uniform *"]), ["Sni", "Sn"], False),
+        Disp("StateSet_removeUniform", S, protos(O, "removeUniform", [st], ["osg::Uniform *"]), ["Sz", "Sn"], False),
+        Disp("StateSet_getOrCreateUniform", S, protos(O, "getOrCreateUniform", [st, "osg::Uniform::Type", ui],
+                                                      [st, "osg::Uniform::Type"]), ["Szu"], False),
+        pair(S, "getUniform", st, goods=["Sz"]), m(S, "getUniformPair", "sz", True),
+        Disp("StateSet_setDefine", S, protos(O, "setDefine", [st, ov], [st], [st, st, ov], [st, st]),
+             ["Szi", "Sz", "Szzi", "Szz"], False),
+        pair(S, "getDefinePair", st, goods=["Sz"]), m(S, "removeDefine", "Sz"),
+        Disp("StateSet_setRenderBinDetails", S, protos(O, "setRenderBinDetails", ["int", st, "osg::StateSet::RenderBinMode"],
+                                                       ["int", st]), ["Sizi", "Siz"], False),
+        m(S, "setRenderingHint", "Si"), m(S, "setRenderBinMode", "Si"), m(S, "setBinNumber", "Si"),
+        m(S, "setBinName", "Sz"), m(S, "setNestRenderBins", "Sb"), m(S, "setUpdateCallback", "Sn"),
+        m(S, "runUpdateCallbacks", "Sn"), m(S, "setEventCallback", "Sn"), m(S, "runEventCallbacks", "Sn"),
+        m(S, "checkValidityOfAssociatedModes", "sa", True), m(S, "setThreadSafeRefUnref", "Sb"),
+        m(S, "compileGLObjects", "sa", True), m(S, "resizeGLObjectBuffers", "Si"),
+        Disp("StateSet_getAttribute", S, protos(O, "getAttribute", [ty, ui], [ty]) +
+             protos(O, "getAttribute", [ty, ui], [ty], const=True), ["Sii", "Si"], False),
+        Disp("StateSet_getAttributePair", S, protos(O, "getAttributePair", [ty, ui], [ty]) +
+             protos(O, "getAttributePair", [ty, ui], [ty], const=True), ["Sii", "Si"], False),
+        Disp("StateSet_releaseGLObjects", S, protos(O, "releaseGLObjects", ["osg::State *"], [], const=True), ["Sn", "S"],
+             False)]
+    rows += [m(S, f"set{c}List", "Sl") for c in ["Mode", "Attribute", "TextureMode", "TextureAttribute", "Uniform",
+                                                  "Define"]]
+    rows += [pair(S, f"get{c}List") for c in ["Mode", "Attribute", "TextureMode", "TextureAttribute", "Uniform",
+                                               "Define"]]
+    rows += [pair(S, f"get{c}Callback") for c in ["Update", "Event"]]
+    rows += [m(S, op, "sv", True, True) for op in ["__lt__", "__eq__", "__ne__"]]
+    rows += [m(S, f, "S") for f in ["computeDataVariance", "setGlobalDefaults", "clear", "setRenderBinToInherit"]]
+    return rows + [m(S, f, "s", True) for f in [
+        "cloneType", "libraryName", "className", "getNumParents", "getNumTextureModeLists",
+        "getNumTextureAttributeLists", "getRenderingHint", "useRenderBinDetails", "getRenderBinMode", "getBinNumber",
+        "getBinName", "getNestRenderBins", "requiresUpdateTraversal", "getNumChildrenRequiringUpdateTraversal",
+        "requiresEventTraversal", "getNumChildrenRequiringEventTraversal"]]
+
+
+def attributes():
+    SA, cp = "StateAttribute", "osg::CopyOp const &"
+    rows = [m(SA, "clone", "sc", True), m(SA, "isSameKindAs", "so", True), m(SA, "compare", "sv", True),
+            m(SA, "getModeUsage", "sm", True), m(SA, "checkValidityOfAssociatedModes", "sa", True),
+            m(SA, "setUpdateCallback", "Sn"), m(SA, "setEventCallback", "Sn"), m(SA, "apply", "sa", True),
+            m(SA, "compileGLObjects", "sa", True), m(SA, "resizeGLObjectBuffers", "Si"),
+            pair(SA, "getParent", "unsigned int", goods=()),
+            Disp("StateAttribute_releaseGLObjects", SA, protos("osg::StateAttribute", "releaseGLObjects", ["osg::State *"],
+                                                               [], const=True), ["Sn", "S"], False)]
+    rows += [m(SA, op, "sv", True, True) for op in ["__lt__", "__eq__", "__ne__"]]
+    rows += [pair(SA, f) for f in ["asStateAttribute", "asTexture", "getUpdateCallback", "getEventCallback"]]
+    rows += [m(SA, f, "s", True) for f in ["cloneType", "libraryName", "className", "getType", "getMember",
+                                            "getTypeMemberPair", "isTextureAttribute", "getParents", "getNumParents"]]
+    own = {"Fog": (True, False, True), "ColorMask": (True, False, False), "ClipPlane": (False, True, True),
+           "Viewport": (True, False, False)}
+    for C, (typ, member, modes) in own.items():
+        O, cref = f"osg::{C}", f"osg::{C} const &"
+        rows += [m(C, "clone", "sc", True), m(C, "isSameKindAs", "so", True), m(C, "compare", "sA", True),
+                 m(C, "apply", "sa", True)] + [m(C, f, "s", True) for f in ["cloneType", "libraryName", "className"]]
+        rows += ([m(C, "getType", "s", True)] if typ else []) + ([m(C, "getMember", "s", True)] if member else [])
+        rows += [m(C, "getModeUsage", "sm", True)] if modes else []
+        ctors = {"Fog": ([], ["", "vc", "v"]), "ColorMask": ([["bool"] * 4], ["", "bbbb", "vc", "v"]),
+                 "ClipPlane": ([["unsigned int"], ["unsigned int", "osg::Vec4d const &"],
+                                ["unsigned int", "osg::Plane const &"], ["unsigned int"] + ["double"] * 4],
+                               ["", "i", "iH", "ixxxx", "vc", "v"]),
+                 "Viewport": ([["osg::Viewport::value_type"] * 4], ["", "xxxx", "vc", "v"])}[C]
+        rows.append(Disp(f"new_{C}", C, protos(O, C, [], *ctors[0], [cref, cp], [cref]), ctors[1], False))
+    F, CM, CP, VP = "Fog", "ColorMask", "ClipPlane", "Viewport"
+    rows += [m(F, "setMode", "Si"), m(F, "setDensity", "Sx"), m(F, "setStart", "Sx"), m(F, "setEnd", "Sx"),
+             m(F, "setColor", "SE"), m(F, "setUseRadialFog", "Sb"), m(F, "setFogCoordinateSource", "Si")]
+    rows += [m(F, f"get{g}", "s", True) for g in ["Mode", "Density", "Start", "End", "Color", "UseRadialFog",
+                                                    "FogCoordinateSource"]]
+    rows += [m(CM, "setMask", "Sbbbb")] + [m(CM, f"{a}{c}Mask", "Sb" if a == "set" else "s", a == "get")
+                                           for c in ["Red", "Green", "Blue", "Alpha"] for a in ["set", "get"]]
+    rows += [Disp("ClipPlane_setClipPlane", CP, protos("osg::ClipPlane", "setClipPlane", ["osg::Plane const &"],
+                                                       ["double"] * 4, ["osg::Vec4d const &"]), ["Sxxxx", "SH"], False),
+             m(CP, "getClipPlane", "s", True), m(CP, "setClipPlaneNum", "Si"), m(CP, "getClipPlaneNum", "s", True)]
+    rows += [m(VP, "setViewport", "Sxxxx")] + [pair(VP, c) for c in ["x", "y", "width", "height"]]
+    return rows + [m(VP, f, "s", True) for f in ["valid", "aspectRatio", "computeWindowMatrix"]]
+
+
+def texture():
+    T, O, ui, img = "Texture2D", "osg::Texture2D", "unsigned int", "osg::Image *"
+    rows = [
+        Disp("new_Texture2D", T, protos(O, T, [], [img], ["osg::Texture2D const &", "osg::CopyOp const &"],
+                                        ["osg::Texture2D const &"]), ["", "n", "I", "vc", "v"], False),
+        m(T, "compare", "sA", True), m(T, "isDirty", "si", True), m(T, "getModifiedCount", "si", True),
+        Disp("Texture2D_setImage", T, protos(O, "setImage", [img], [ui, img]), ["SI", "SiI"], False),
+        Disp("Texture2D_getImage", T, protos(O, "getImage", []) + protos(O, "getImage", [], const=True) +
+             protos(O, "getImage", [ui]) + protos(O, "getImage", [ui], const=True), ["S", "Si"], False),
+        m(T, "setTextureSize", "sii", True), m(T, "setTextureWidth", "Si"), m(T, "setTextureHeight", "Si"),
+        m(T, "setSubloadCallback", "Sn"), pair(T, "getSubloadCallback"), m(T, "setNumMipmapLevels", "si", True),
+        m(T, "copyTexImage2D", "Saiiii"), m(T, "copyTexSubImage2D", "Saiiiiii"), m(T, "apply", "sa", True)]
+    return rows + [m(T, f, "s", True) for f in ["getTextureTarget", "getNumImages", "getTextureWidth",
+                                                 "getTextureHeight", "getTextureDepth", "getNumMipmapLevels"]]
+
+
+STATE = state_set() + attributes() + texture()
+
 ALL = [r for V in VECTORS for r in vector(V)] + quat() + base() + notify() + matrix("Matrixd") + matrix("Matrixf") + \
-    ref_matrix("RefMatrixd") + ref_matrix("RefMatrixf") + plane() + operators()
+    ref_matrix("RefMatrixd") + ref_matrix("RefMatrixf") + plane() + operators() + STATE
 ROWS = [r for r in ALL if isinstance(r, Row)]
 DISPATCHERS = [d for d in ALL if isinstance(d, Disp)]
 BY_NAME = {r.name: r for r in ALL}

@@ -30,6 +30,12 @@ _DESTROY = {**{f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["
 _DESTROY.update({f"osg::{c} *": _osg.delete_Group for c in ["Group", "Geode", "Switch", "Transform", "MatrixTransform",
                                                              "PositionAttitudeTransform", "AutoTransform", "ClipNode"]})
 _DESTROY.update({"osg::Node *": _osg.delete_Referenced, "osgUtil::SmoothingVisitor *": _osg.delete_SmoothingVisitor})
+# Render state: attributes and state sets release one reference; textures and pairs only the
+# sibling module can free.
+_DESTROY.update({f"osg::{c} *": _osg.delete_Referenced for c in ["StateSet", "Fog", "ColorMask", "ClipPlane", "Viewport"]})
+_DESTROY.update({"osg::Texture2D *": lambda p: (p.disown(), _osgpeer.free_texture(p)),
+                 "std::pair< enum osg::StateAttribute::Type,unsigned int > *":
+                     lambda p: (p.disown(), _osgpeer.free_type_member_pair(p))})
 
 
 def type_name(proxy):

@@ -14,6 +14,11 @@ NAMED = {"F": "Vec3f", "G": "Vec3d", "E": "Vec4f", "H": "Vec4d", "Q": "Quat", "M
 # Values made by the sibling module, and element pointers of a matrix.
 VALUES = {"L": lambda: _osgpeer.points(False, [0, 0, 0, 1, 1, 1]), "K": lambda: _osgpeer.points(True, [0, 0, 0]),
           "B": lambda: _osgpeer.bounding_sphere(0, 0, 0, 1), "X": lambda: _osgpeer.bounding_box(0, 0, 0, 1, 1, 1)}
+NAMED.update({"A": "Fog"})
+# Render-state values only the sibling module makes.
+VALUES.update({"e": lambda: _osgpeer.make_glenum(0x0B60), "T": lambda: _osgpeer.make_glenum(0x0DE1),
+               "u": lambda: _osgpeer.make_uniform_type(0x1406), "z": lambda: _osgpeer.make_string("name"),
+               "a": _osgpeer.make_state, "I": lambda: _osgpeer.make_image(4, 4), "m": _osgpeer.make_mode_usage})
 # Good calls needing a partner call to leave the state as it was.
 PAIRED = {"intrusive_ptr_add_ref": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
           "intrusive_ptr_release": (_osg.intrusive_ptr_add_ref, _osg.intrusive_ptr_release),
@@ -25,6 +30,13 @@ SAME_AGAIN = {"setNotifyLevel": lambda: _osg.setNotifyLevel(_osg.getNotifyLevel(
 # No good call: the handlers print each message; std::string has no destroy function; Quat_get needs a matrix.
 NO_GOOD_CALL = {"NotifyHandler_notify", "StandardNotifyHandler_notify", "Object_getCompoundClassName", "Quat_get"}
 CLONES = {f"{c}_{f}" for c in ["Object", "DummyObject", "RefMatrixd", "RefMatrixf"] for f in ["clone", "cloneType"]}
+# No good call: GL work needs a context; container setters take the getters' results (tested apart).
+NO_GOOD_CALL |= {f"{c}_apply" for c in ["StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"]}
+NO_GOOD_CALL |= {"Texture2D_copyTexImage2D", "Texture2D_copyTexSubImage2D", "Viewport_computeWindowMatrix"}
+NO_GOOD_CALL |= {f"StateSet_set{c}List" for c in ["Mode", "Attribute", "TextureMode", "TextureAttribute", "Uniform",
+                                                  "Define"]}
+CLONES |= {f"{c}_{f}" for c in ["StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport"]
+           for f in ["clone", "cloneType"]}
 
 
 class Env:
@@ -34,7 +46,7 @@ class Env:
         self.mk, self.cls, self.objects = mk, cls, {}
 
     def make(self, cls):
-        cls = {"Object": "DummyObject", "NotifyHandler": "StandardNotifyHandler"}.get(cls, cls)
+        cls = {"Object": "DummyObject", "NotifyHandler": "StandardNotifyHandler", "StateAttribute": "Fog"}.get(cls, cls)
         return getattr(_osg, f"new_{cls}")(*[1.0] * (4 if cls == "Quat" else int(cls[3]) if cls[:3] == "Vec" else 0))
 
     def arg(self, code):

@@ -201,12 +201,46 @@ struct Arg<ArrayIn<T, N>> {
     static Store get(Store s) { return s; }
 };
 
+// ---- opaque handles: a value that crosses only as a pointer proxy of descriptor D ----
+
+// GLenum and GLbitfield are both unsigned int, so the type cannot choose the descriptor:
+// the row does, through the argument's spelling or a result adapter (engine.h).
+template <int D, class T>
+struct Handle {
+    static constexpr int descriptor = D;
+    T value;
+};
+
+template <class T>
+inline constexpr bool is_handle = false;
+template <int D, class T>
+inline constexpr bool is_handle<Handle<D, T>> = true;
+
+// The value is copied out of the proxy's pointer; None and null pointers are refused.
+template <int D, class T>
+struct Arg<Handle<D, T>> {
+    using Store = T *;
+    static constexpr Rank rank = Rank::Class;
+    template <class M>
+    static bool convert(PyObject *o, Store &out, int) {
+        void *p = nullptr;
+        if (SWIG_ConvertPtr(o, &p, swig_types[D]) != SWIG_OK) return fail(PyExc_TypeError, M::plain.v);
+        if (!p) return fail(PyExc_TypeError, M::null_ref.v);
+        out = static_cast<T *>(p);
+        return true;
+    }
+    static bool test(PyObject *o) { return SWIG_CheckPtr(o, swig_types[D]) == SWIG_OK; }
+    static T get(Store s) { return *s; }
+};
+
 // ---- results ------------------------------------------------------------------------
 
 template <class R>
 PyObject *to_python(R &&r) {
     using T = std::remove_cvref_t<R>;
-    if constexpr (std::is_same_v<T, bool>) {
+    if constexpr (is_handle<T>) {  // a new heap copy, owned
+        return SWIG_Python_NewPointerObj(new auto(r.value), swig_types[T::descriptor], SWIG_POINTER_OWN);
+    } else if constexpr (std::is_same_v<T, bool>) {
         return PyBool_FromLong(r);
     } else if constexpr (std::is_floating_point_v<T> && !std::is_reference_v<R>) {
         return PyFloat_FromDouble(r);

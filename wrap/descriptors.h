@@ -59,6 +59,27 @@ template <> inline constexpr int descriptor_of<std::vector<osg::Vec3f>> = ty::p_
 template <> inline constexpr int descriptor_of<std::vector<osg::Vec3d>> = ty::p_std__vectorT_osg__Vec3d_t;
 template <> inline constexpr int descriptor_of<std::string> = ty::p_std__string;
 template <> inline constexpr int descriptor_of<std::ostream> = ty::p_std__ostream;
+// Render state: attributes, texture, and the state set's opaque containers and callbacks.
+template <> inline constexpr int descriptor_of<osg::Fog> = ty::p_osg__Fog;
+template <> inline constexpr int descriptor_of<osg::ColorMask> = ty::p_osg__ColorMask;
+template <> inline constexpr int descriptor_of<osg::Viewport> = ty::p_osg__Viewport;
+template <> inline constexpr int descriptor_of<osg::Texture2D> = ty::p_osg__Texture2D;
+template <> inline constexpr int descriptor_of<osg::Texture2D::SubloadCallback> = ty::p_osg__Texture2D__SubloadCallback;
+template <> inline constexpr int descriptor_of<osg::StateAttribute::ModeUsage> = ty::p_osg__StateAttribute__ModeUsage;
+template <> inline constexpr int descriptor_of<osg::StateAttribute::TypeMemberPair> = ty::p_std__pairT_osg__StateAttribute__Type_unsigned_int_t;
+template <> inline constexpr int descriptor_of<osg::StateAttribute::ParentList> = ty::p_std__vectorT_osg__StateSet_p_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::Callback> = ty::p_osg__StateSet__Callback;
+template <> inline constexpr int descriptor_of<osg::StateSet::ModeList> = ty::p_std__mapT_GLenum_unsigned_int_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::AttributeList> = ty::p_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::TextureModeList> = ty::p_std__vectorT_std__mapT_GLenum_unsigned_int_t_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::TextureAttributeList> = ty::p_std__vectorT_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::UniformList> = ty::p_std__mapT_std__string_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::DefineList> = ty::p_std__mapT_std__string_std__pairT_std__string_unsigned_int_t_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::RefAttributePair> = ty::p_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::RefUniformPair> = ty::p_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t;
+template <> inline constexpr int descriptor_of<osg::StateSet::DefinePair> = ty::p_std__pairT_std__string_unsigned_int_t;
+// Also osg::NodePath: the state set's parents and a node path are the same vector type.
+template <> inline constexpr int descriptor_of<osg::StateSet::ParentList> = ty::p_std__vectorT_osg__Node_p_t;
 // Element pointers and out-parameters.
 template <> inline constexpr int descriptor_of<double> = ty::p_double;
 template <> inline constexpr int descriptor_of<float> = ty::p_float;
@@ -83,7 +104,6 @@ template <> inline constexpr int descriptor_of<osg::Node::ComputeBoundingSphereC
 template <> inline constexpr int descriptor_of<osg::BoundingSphere> = ty::p_osg__BoundingSphereImplT_osg__Vec3d_t;
 template <> inline constexpr int descriptor_of<osg::BoundingBox> = ty::p_osg__BoundingBoxImplT_osg__Vec3d_t;
 template <> inline constexpr int descriptor_of<std::vector<osg::Group *>> = ty::p_std__vectorT_osg__Group_p_t;
-template <> inline constexpr int descriptor_of<std::vector<osg::Node *>> = ty::p_std__vectorT_osg__Node_p_t;
 template <> inline constexpr int descriptor_of<std::vector<std::vector<osg::Node *>>> = ty::p_std__vectorT_std__vectorT_osg__Node_p_t_t;
 template <> inline constexpr int descriptor_of<std::vector<osg::Matrixd>> = ty::p_std__vectorT_osg__Matrixd_t;
 template <> inline constexpr int descriptor_of<std::vector<std::string>> = ty::p_std__vectorT_std__string_t;

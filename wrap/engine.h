@@ -78,6 +78,36 @@ constexpr F pick(F f) {
     return f;
 }
 
+// ---- opaque handles ----------------------------------------------------------------------
+
+// The spelling of a parameter that crosses as an opaque handle of descriptor D:
+//   K::fn<"setMode", &S::setMode, handle<ty::p_GLenum>("osg::StateAttribute::GLMode"), ...>()
+template <int D, std::size_t N>
+constexpr Text<N> handle(const char (&s)[N]) {
+    Text<N> t(s);
+    t.handle = D;
+    return t;
+}
+
+// The parameters of a callable with each parameter spelled as a handle replaced by Handle<D, P>.
+template <class P, Text... Spell>
+struct Handles {
+    using type = P;  // a count mismatch is reported by Call
+};
+template <class... A, Text... Spell>
+    requires(sizeof...(A) == sizeof...(Spell))
+struct Handles<List<A...>, Spell...> {
+    using type = List<std::conditional_t<(Spell.handle < 0), A, Handle<Spell.handle, std::remove_cvref_t<A>>>...>;
+};
+
+// F with its result crossing as an opaque handle of descriptor D (a new owned heap copy):
+//   K::fn<"getClearMask", returns_handle<ty::p_GLbitfield, &C::getClearMask>>()
+template <int D, auto F>
+constexpr auto returns_handle = []<class... A>(List<A...>) {
+    using R = std::remove_cvref_t<typename Signature<std::remove_const_t<decltype(callable<F>())>>::Ret>;
+    return +[](A... a) -> Handle<D, R> { return {std::invoke(callable<F>(), static_cast<A>(a)...)}; };
+}(typename Signature<std::remove_const_t<decltype(callable<F>())>>::Params{});
+
 // ---- policies: what the C++ type cannot say -------------------------------------------
 
 enum class Result {
@@ -131,7 +161,7 @@ struct Call {
     static constexpr auto fn = callable<F>();
     using Sig = Signature<std::remove_const_t<decltype(fn)>>;
     using Ret = typename Sig::Ret;
-    using Params = typename Sig::Params;
+    using Params = typename Handles<typename Sig::Params, Spell...>::type;
     static constexpr std::size_t arity = Params::size;
     static_assert(sizeof...(Spell) == arity, "one type spelling per argument");
 
@@ -500,9 +530,10 @@ struct Class {
         return row<Dispatch<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
     }
     // A const/non-const accessor pair; the non-const member, listed first, is always taken.
-    template <Text Member, auto NonConst, auto Const>
+    // Spell... spells the arguments both members share.
+    template <Text Member, auto NonConst, auto Const, Text... Spell>
     static constexpr Row pair() {
-        return overload<Member, m<Member, NonConst>, m<Member, Const>>();
+        return overload<Member, m<Member, NonConst, Spell...>, m<Member, Const, Spell...>>();
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_op() {

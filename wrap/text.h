@@ -8,6 +8,7 @@ namespace wrap {
 template <std::size_t N>
 struct Text {
     char v[N]{};
+    int handle = -1;  // a spelling of an opaque handle names its descriptor here
     constexpr Text() = default;
     constexpr Text(const char (&s)[N]) {
         for (std::size_t i = 0; i < N; ++i) v[i] = s[i];

@@ -9,18 +9,19 @@
 #include <osg/Matrixf>
 #include <osg/Node>
 #include <osg/Vec3f>
-#include <deque>
-#include <string>
-#include <vector>
-
-#include <cstring>
-#include <deque>
-#include <osg/BoundingBox>
-#include <osg/BoundingSphere>
 #include <osg/ClipNode>
 #include <osg/Geometry>
 #include <osg/Group>
 #include <osg/Switch>
+#include <osg/Image>
+#include <osg/State>
+#include <osg/StateSet>
+#include <osg/Texture2D>
+#include <cstring>
+#include <deque>
+#include <set>
+#include <string>
+#include <vector>
 
 namespace peer {
 struct SpecialNode : osg::Node {};
@@ -163,6 +164,203 @@ PyObject *points(PyObject *, PyObject *args) {
     std::vector<osg::Vec3f> v;
     for (size_t i = 0; i + 2 < c.size(); i += 3) v.emplace_back(c[i], c[i + 1], c[i + 2]);
     return keep(std::move(v), "_p_std__vectorT_osg__Vec3f_t");
+}
+
+// ---- state values: handles, strings, images and states that _osg cannot make ----------
+
+// A value behind a non-owned proxy of the named descriptor; equal values share storage.
+template <const char *Name>
+PyObject *make_handle(PyObject *, PyObject *arg) {
+    static std::set<unsigned int> pool;
+    unsigned long v = PyLong_AsUnsignedLong(arg);
+    if (PyErr_Occurred()) return nullptr;
+    swig_type_info *t = find_or_raise(Name);
+    if (!t) return nullptr;
+    return SWIG_Python_NewPointerObj(const_cast<unsigned int *>(&*pool.insert((unsigned int)v).first), t, 0);
+}
+
+template <const char *Name>
+PyObject *handle_value(PyObject *, PyObject *arg) {
+    swig_type_info *t = find_or_raise(Name);
+    void *p = nullptr;
+    if (!t) return nullptr;
+    if (SWIG_ConvertPtrNonNull(arg, &p, t) != SWIG_OK) return PyErr_Format(PyExc_TypeError, "not a %s pointer", Name);
+    return PyLong_FromUnsignedLong(*static_cast<unsigned int *>(p));
+}
+
+constexpr char glenum_name[] = "_p_GLenum", glbitfield_name[] = "_p_GLbitfield",
+               uniform_type_name[] = "_p_osg__Uniform__Type";
+
+template <class T>
+T *pointer(PyObject *arg, const char *name) {
+    swig_type_info *t = find_or_raise(name);
+    void *p = nullptr;
+    if (t && SWIG_ConvertPtr(arg, &p, t) != SWIG_OK) PyErr_Format(PyExc_TypeError, "not a %s pointer", name);
+    return static_cast<T *>(p);
+}
+
+PyObject *make_string(PyObject *, PyObject *arg) {
+    static std::set<std::string> pool;
+    const char *text = PyUnicode_AsUTF8(arg);
+    if (!text) return nullptr;
+    return SWIG_Python_NewPointerObj(const_cast<std::string *>(&*pool.insert(text).first), types[std__string], 0);
+}
+
+// make_image(width, height): an RGBA image the peer keeps alive.
+PyObject *make_image(PyObject *, PyObject *args) {
+    static std::vector<osg::ref_ptr<osg::Image>> images;
+    int w, h;
+    if (!PyArg_ParseTuple(args, "ii", &w, &h)) return nullptr;
+    swig_type_info *t = find_or_raise("_p_osg__Image");
+    if (!t) return nullptr;
+    images.push_back(new osg::Image);
+    images.back()->allocateImage(w, h, 1, GL_RGBA, GL_UNSIGNED_BYTE);
+    return SWIG_Python_NewPointerObj(images.back().get(), t, 0);
+}
+
+// ref_count(obj, "_p_osg__Image" or "_p_osg__Texture2D"): neither converts to osg::Referenced in _osg.
+PyObject *ref_count(PyObject *, PyObject *args) {
+    PyObject *obj;
+    const char *name;
+    if (!PyArg_ParseTuple(args, "Os", &obj, &name)) return nullptr;
+    osg::Referenced *r = std::string(name) == "_p_osg__Texture2D" ? static_cast<osg::Referenced *>(pointer<osg::Texture2D>(obj, name))
+                                                                  : pointer<osg::Image>(obj, name);
+    return PyErr_Occurred() ? nullptr : PyLong_FromLong(r->referenceCount());
+}
+
+// A pointer object of the named descriptor holding null, which None is not.
+PyObject *null_pointer(PyObject *, PyObject *arg) {
+    swig_type_info *t = find_or_raise(PyUnicode_AsUTF8(arg));
+    return t ? SwigPyObject_New(nullptr, t, 0) : nullptr;
+}
+
+PyObject *make_state(PyObject *, PyObject *) {
+    static osg::ref_ptr<osg::State> state = new osg::State;
+    swig_type_info *t = find_or_raise("_p_osg__State");
+    return t ? SWIG_Python_NewPointerObj(state.get(), t, 0) : nullptr;
+}
+
+// A mode usage that records what attributes report: [(mode, is texture mode), ...], sorted.
+struct ModeRecorder : osg::StateAttribute::ModeUsage {
+    std::set<std::pair<unsigned int, bool>> modes;
+    void usesMode(osg::StateAttribute::GLMode m) override { modes.emplace(m, false); }
+    void usesTextureMode(osg::StateAttribute::GLMode m) override { modes.emplace(m, true); }
+};
+ModeRecorder recorder;
+
+PyObject *make_mode_usage(PyObject *, PyObject *) {
+    recorder.modes.clear();
+    swig_type_info *t = find_or_raise("_p_osg__StateAttribute__ModeUsage");
+    return t ? SWIG_Python_NewPointerObj(static_cast<osg::StateAttribute::ModeUsage *>(&recorder), t, 0) : nullptr;
+}
+
+PyObject *recorded_modes(PyObject *, PyObject *) {
+    PyObject *out = PyList_New(0);
+    for (auto &[mode, texture] : recorder.modes) {
+        PyObject *item = Py_BuildValue("(kO)", (unsigned long)mode, texture ? Py_True : Py_False);
+        PyList_Append(out, item);
+        Py_DECREF(item);
+    }
+    return out;
+}
+
+// A texture made at reference count 0 converts to nothing that could release it.
+PyObject *free_texture(PyObject *, PyObject *arg) {
+    auto *tex = pointer<osg::Texture2D>(arg, "_p_osg__Texture2D");
+    if (PyErr_Occurred()) return nullptr;
+    tex->ref();
+    tex->unref();
+    Py_RETURN_NONE;
+}
+
+PyObject *free_type_member_pair(PyObject *, PyObject *arg) {
+    auto *p = pointer<osg::StateAttribute::TypeMemberPair>(arg, "_p_std__pairT_osg__StateAttribute__Type_unsigned_int_t");
+    if (PyErr_Occurred()) return nullptr;
+    delete p;
+    Py_RETURN_NONE;
+}
+
+// set_state_set(node, state set or None)
+PyObject *set_state_set(PyObject *, PyObject *args) {
+    PyObject *node, *ss;
+    if (!PyArg_ParseTuple(args, "OO", &node, &ss)) return nullptr;
+    auto *n = pointer<osg::Node>(node, "_p_osg__Node");
+    auto *s = PyErr_Occurred() ? nullptr : pointer<osg::StateSet>(ss, "_p_osg__StateSet");
+    if (PyErr_Occurred()) return nullptr;
+    n->setStateSet(s);
+    Py_RETURN_NONE;
+}
+
+PyObject *address(const void *p) { return PyLong_FromVoidPtr(const_cast<void *>(p)); }
+
+template <class L, class F>
+PyObject *each(const L &l, F f) {
+    PyObject *out = PyList_New(0);
+    for (auto &e : l) {
+        PyObject *item = f(e);
+        PyList_Append(out, item);
+        Py_DECREF(item);
+    }
+    return out;
+}
+
+PyObject *mode_items(const osg::StateSet::ModeList &l) {
+    return each(l, [](auto &e) { return Py_BuildValue("(kk)", (unsigned long)e.first, (unsigned long)e.second); });
+}
+
+PyObject *attribute_items(const osg::StateSet::AttributeList &l) {
+    return each(l, [](auto &e) {
+        return Py_BuildValue("(ikNk)", (int)e.first.first, (unsigned long)e.first.second, address(e.second.first.get()),
+                             (unsigned long)e.second.second);
+    });
+}
+
+// container_items(proxy): the contents of one of the state set's containers or pairs, by
+// the proxy's descriptor; objects appear as their addresses.
+PyObject *container_items(PyObject *, PyObject *arg) {
+    using S = osg::StateSet;
+    auto is = [&](const char *name) -> void * {
+        swig_type_info *t = find(name);
+        void *p = nullptr;
+        return t && SWIG_ConvertPtrNonNull(arg, &p, t) == SWIG_OK ? p : nullptr;
+    };
+    if (void *p = is("_p_std__mapT_GLenum_unsigned_int_t")) return mode_items(*static_cast<S::ModeList *>(p));
+    if (void *p = is("_p_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t"))
+        return attribute_items(*static_cast<S::AttributeList *>(p));
+    if (void *p = is("_p_std__vectorT_std__mapT_GLenum_unsigned_int_t_t"))
+        return each(*static_cast<S::TextureModeList *>(p), mode_items);
+    if (void *p = is("_p_std__vectorT_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t_t"))
+        return each(*static_cast<S::TextureAttributeList *>(p), attribute_items);
+    if (void *p = is("_p_std__mapT_std__string_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t_t"))
+        return each(*static_cast<S::UniformList *>(p), [](auto &e) {
+            return Py_BuildValue("(sNk)", e.first.c_str(), address(e.second.first.get()), (unsigned long)e.second.second);
+        });
+    if (void *p = is("_p_std__mapT_std__string_std__pairT_std__string_unsigned_int_t_t"))
+        return each(*static_cast<S::DefineList *>(p), [](auto &e) {
+            return Py_BuildValue("(ssk)", e.first.c_str(), e.second.first.c_str(), (unsigned long)e.second.second);
+        });
+    if (void *p = is("_p_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t")) {
+        auto *e = static_cast<S::RefAttributePair *>(p);
+        return Py_BuildValue("(Nk)", address(e->first.get()), (unsigned long)e->second);
+    }
+    if (void *p = is("_p_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t")) {
+        auto *e = static_cast<S::RefUniformPair *>(p);
+        return Py_BuildValue("(Nk)", address(e->first.get()), (unsigned long)e->second);
+    }
+    if (void *p = is("_p_std__pairT_std__string_unsigned_int_t")) {
+        auto *e = static_cast<S::DefinePair *>(p);
+        return Py_BuildValue("(sk)", e->first.c_str(), (unsigned long)e->second);
+    }
+    if (void *p = is("_p_std__pairT_osg__StateAttribute__Type_unsigned_int_t")) {
+        auto *e = static_cast<osg::StateAttribute::TypeMemberPair *>(p);
+        return Py_BuildValue("(ik)", (int)e->first, (unsigned long)e->second);
+    }
+    if (void *p = is("_p_std__vectorT_osg__Node_p_t"))
+        return each(*static_cast<std::vector<osg::Node *> *>(p), [](auto *e) { return address(e); });
+    if (void *p = is("_p_std__vectorT_osg__StateSet_p_t"))
+        return each(*static_cast<std::vector<osg::StateSet *> *>(p), [](auto *e) { return address(e); });
+    PyErr_SetString(PyExc_TypeError, "not a state container");
+    return nullptr;
 }
 
 // ---- runtime introspection ------------------------------------------------------------
@@ -541,8 +739,6 @@ PyObject *items(PyObject *arg, const char *name, F item) {
     return out;
 }
 
-PyObject *address(const void *p) { return PyLong_FromVoidPtr(const_cast<void *>(p)); }
-
 // read_list(container, descriptor name): the items of an opaque container as Python values;
 // objects are given by address.
 PyObject *read_list(PyObject *, PyObject *args) {
@@ -633,6 +829,24 @@ PyMethodDef methods[] = {
     {"value_list", value_list, METH_O, nullptr},
     {"read_list", read_list, METH_VARARGS, nullptr},
     {"release", release, METH_VARARGS, nullptr},
+    // state values
+    {"make_glenum", make_handle<glenum_name>, METH_O, nullptr},
+    {"glenum_value", handle_value<glenum_name>, METH_O, nullptr},
+    {"make_glbitfield", make_handle<glbitfield_name>, METH_O, nullptr},
+    {"glbitfield_value", handle_value<glbitfield_name>, METH_O, nullptr},
+    {"make_uniform_type", make_handle<uniform_type_name>, METH_O, nullptr},
+    {"uniform_type_value", handle_value<uniform_type_name>, METH_O, nullptr},
+    {"make_string", make_string, METH_O, nullptr},
+    {"make_image", make_image, METH_VARARGS, nullptr},
+    {"ref_count", ref_count, METH_VARARGS, nullptr},
+    {"null_pointer", null_pointer, METH_O, nullptr},
+    {"make_state", make_state, METH_NOARGS, nullptr},
+    {"make_mode_usage", make_mode_usage, METH_NOARGS, nullptr},
+    {"recorded_modes", recorded_modes, METH_NOARGS, nullptr},
+    {"free_texture", free_texture, METH_O, nullptr},
+    {"free_type_member_pair", free_type_member_pair, METH_O, nullptr},
+    {"set_state_set", set_state_set, METH_VARARGS, nullptr},
+    {"container_items", container_items, METH_O, nullptr},
     {nullptr, nullptr, 0, nullptr},
 };
 
