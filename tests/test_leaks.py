@@ -1,5 +1,6 @@
 """Every class function, called many times with good and with bad arguments, leaves the
 arguments' reference counts, the C++ heap, Python's allocated blocks and the RSS flat."""
+import os
 import sys
 
 import pytest
@@ -120,7 +121,8 @@ def flat(calls, kept):
     assert [sys.getrefcount(a) for a in kept] == refs
     assert heap_bytes() - heap < 4096 + N
     assert sys.getallocatedblocks() - blocks < 64
-    assert rss_bytes() - rss < 1 << 20
+    # ASan's quarantine holds freed memory back, so the process grows under the sanitizers.
+    assert rss_bytes() - rss < 1 << 20 or os.environ.get("OSG_SANITIZED")
 
 
 @pytest.mark.parametrize("row", ALL, ids=lambda r: r.name)

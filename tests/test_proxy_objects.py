@@ -169,6 +169,12 @@ MISUSE = [  # (code, what it ends in): each raises or works, none crashes or han
      "print(repr(p).count('osg::Vec3f'))\ndel p, n, tail", "300001"),  # freed and shown in a loop, not by recursion
     ("S = type('S', (type(_osg.cvar.X_AXIS),), {})\nfor _ in range(20000):\n    s = S(); s.x = repr(s)\n"
      "import gc; gc.collect(); print(s.x[:30])", "<Swig Object of type 'unknown'"),
+    ("_osg.delete_Matrixf(_osg.new_RefMatrixf())",  # delete through the matrix base is undefined
+     "TypeError: in method 'delete_Matrixf', argument 1 of type 'osg::Matrixf *'"),
+    ("_osg.delete_Matrixd(type('T', (), {'this': _osg.new_RefMatrixd()})())",
+     "TypeError: in method 'delete_Matrixd', argument 1 of type 'osg::Matrixd *'"),
+    ("r = _osg.new_RefMatrixd(); p = _osg.Matrixd___imul__(r, _osg.new_Matrixd()); print(r.own(), p.own())",
+     "True False"),  # the matrix part of a RefMatrixd never owns
 ]
 
 

@@ -47,6 +47,19 @@ struct Arg<T *> {
         out = static_cast<T *>(p);
         return true;
     }
+    // The object of a destroy by `delete`: a pointer object of T's own descriptor (or None),
+    // disowned; one reached through a cast edge is refused before it gives up ownership.
+    template <class M>
+    static bool convert_exact(PyObject *o, Store &out) {
+        void *p = nullptr;
+        SwigPyObject *matched = nullptr;
+        if (SWIG_Python_ConvertPtrMatch(o, &p, descriptor<T>(), 0, &matched) != SWIG_OK ||
+            (matched && matched->ty != descriptor<T>()))
+            return fail(PyExc_TypeError, M::plain.v);
+        if (matched) SwigPyObject_setown(matched, 0);
+        out = static_cast<T *>(p);
+        return true;
+    }
     static bool test(PyObject *o) {
         void *p;
         return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;

@@ -124,12 +124,14 @@ struct Policy {
     Result result = Result::Plain;
     bool not_implemented = false;  // binary operator: a TypeError becomes NotImplemented
     TakeRef take_ref = TakeRef::None;
+    bool exact = false;  // destroy by `delete`: argument 1 must be of the class itself
 };
 
 inline constexpr Policy plain{};
 inline constexpr Policy binary_op{Result::Plain, true};
 inline constexpr Policy in_place{Result::InPlace};
 inline constexpr Policy disown{Result::Disown};
+inline constexpr Policy disown_exact{Result::Disown, false, TakeRef::None, true};
 
 // ---- messages -------------------------------------------------------------------------
 
@@ -185,8 +187,11 @@ struct Call {
                 // ownership, and the result owns exactly when it did: a borrowed proxy (of a
                 // global's or a member's storage) must not turn into an owner of memory this
                 // module never allocated, so a borrowed argument gives a borrowed result.
-                int owned = self ? self->own : 0;
-                if (self) SwigPyObject_setown(self, 0);
+                // An object reached through a cast edge keeps its ownership: the result is a
+                // proxy of the base part (the matrix inside a RefMatrixd), which no destroy
+                // function of the base may free.
+                int owned = self && self->ty == descriptor_for<0>() ? self->own : 0;
+                if (owned) SwigPyObject_setown(self, 0);
                 std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
                 return SWIG_Python_NewPointerObj(address(std::get<0>(v)), descriptor_for<0>(), owned);
             } else if constexpr (std::is_void_v<Ret> && P.result != Result::InPlace) {
@@ -214,6 +219,8 @@ struct Call {
             using M = ArgText<Name, I + 1, spelling<I>()>;
             if constexpr (I == 0 && P.result == Result::InPlace) {
                 return Arg<A1>::template convert_self<M>(o, out, self);
+            } else if constexpr (I == 0 && P.exact) {
+                return Arg<A1>::template convert_exact<M>(o, out);
             } else {
                 constexpr int flags = (I == 0 && P.result == Result::Disown) ? SWIG_POINTER_DISOWN : 0;
                 return Arg<A1>::template convert<M>(o, out, flags);
@@ -498,10 +505,9 @@ struct Class {
         return row<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>>();
     }
     // delete_<Prefix>: argument 1 disowned, then the action.
-    template <auto Action>
+    template <auto Action, Policy P = disown>
     static constexpr Row dtor() {
-        return row<Single<delete_name, Call<delete_name, Action, disown, cat(Spelling, Text(" *"))>, disown>,
-                   delete_name>();
+        return row<Single<delete_name, Call<delete_name, Action, P, cat(Spelling, Text(" *"))>, P>, delete_name>();
     }
 
     static void unref_object(T *p) { p->unref(); }
@@ -509,7 +515,8 @@ struct Class {
     // delete_<Prefix> for a reference-counted class: one unref().
     static constexpr Row dtor_unref() { return dtor<unref_object>(); }
     // delete_<Prefix> for a plain value: delete.
-    static constexpr Row dtor_delete() { return dtor<delete_object>(); }
+    // Deleting a derived object through T * is undefined, so only T itself is accepted.
+    static constexpr Row dtor_delete() { return dtor<delete_object, disown_exact>(); }
 
     // A candidate member named `Member` in the prototype.
     template <Text Member, auto F, Text... Spell>
