@@ -173,8 +173,8 @@ MISUSE = [  # (code, what it ends in): each raises or works, none crashes or han
      "TypeError: in method 'delete_Matrixf', argument 1 of type 'osg::Matrixf *'"),
     ("_osg.delete_Matrixd(type('T', (), {'this': _osg.new_RefMatrixd()})())",
      "TypeError: in method 'delete_Matrixd', argument 1 of type 'osg::Matrixd *'"),
-    ("r = _osg.new_RefMatrixd(); p = _osg.Matrixd___imul__(r, _osg.new_Matrixd()); print(r.own(), p.own())",
-     "True False"),  # the matrix part of a RefMatrixd never owns
+    ("r, m = _osg.new_RefMatrixd(), _osg.new_Matrixd(); p = _osg.Matrixd___imul__(r, m)\n"
+     "print(r.own(), p.own()); r.disown(); m.disown()", "True False"),  # the matrix part of a RefMatrixd never owns
 ]
 
 
