@@ -16,8 +16,9 @@ one. Registration hooks are called too, so registered classes also take part.
 Hazards kept on purpose, which the harness never produces:
 - None as argument 1 (the object itself: the member runs on a null object).
 - None where OSG dereferences the pointer: the (function, argument) pairs of NULL_DEREF.
-- Unchecked indices, and indices (context ids) OSG grows its containers to: the pairs of INDICES get only
-  integers no C++ integer type holds (so only the overflow error is exercised).
+- Unchecked indices, and indices, counts and sizes OSG grows its containers to (context ids,
+  texture units, switch positions, uniform element counts): the pairs of INDICES and SIZES get
+  only integers no C++ integer type holds, so that only the overflow error is exercised.
 - GL work without a GL context: the `_apply`, `_compileGLObjects` and `_copyTex...` functions
   never get the sibling's osg::State.
 - Element pointers read past their end: element pointers come only from 16-element matrices,
@@ -38,12 +39,19 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 BUILD = os.environ.get("OSG_BUILD_DIR") or os.path.join(HERE, os.pardir, "build")
 
 # None reaches OSG, which dereferences it: (function, 1-based argument).
-NULL_DEREF = {("NotifyHandler_notify", 3), ("StandardNotifyHandler_notify", 3), ("Referenced_addObserver", 2)}
+NULL_DEREF = {("NotifyHandler_notify", 3), ("StandardNotifyHandler_notify", 3), ("Referenced_addObserver", 2),
+              ("StateSet_setAssociatedModes", 2), ("StateSet_removeAssociatedModes", 2),
+              ("StateSet_setAssociatedTextureModes", 3), ("StateSet_removeAssociatedTextureModes", 3)}
 # Indices OSG reads without a bound check, or grows a container to: (function, 1-based argument).
 INDICES = {("Group_getChild", 2), ("Geode_getDrawable", 2), ("Node_getParent", 2), ("Node_getDescription", 2),
            ("StateAttribute_getParent", 2), ("StateSet_getParent", 2), ("Switch_getValue", 2),
            ("ClipNode_getClipPlane", 2), ("Matrixd___call__", 2), ("Matrixd___call__", 3), ("Matrixf___call__", 2),
-           ("Matrixf___call__", 3), ("Texture2D_getModifiedCount", 2), ("Texture2D_isDirty", 2)}
+           ("Matrixf___call__", 3), ("Texture2D_getModifiedCount", 2), ("Texture2D_isDirty", 2),
+           ("Switch_setValue", 2), ("Switch_setSingleChildOn", 2), ("StateSet_setTextureMode", 2),
+           ("StateSet_setTextureAttribute", 2), ("StateSet_setTextureAttributeAndModes", 2),
+           ("StateSet_getOrCreateUniform", 4)}
+# Sizes OSG resizes its per-context buffers to (argument 2 of every `_resizeGLObjectBuffers`).
+SIZES = re.compile(r".*_resizeGLObjectBuffers$")
 # GL work needs a context, which no test process has: these never get a live osg::State.
 STATE = "_osgpeer.make_state()"
 GL_WORK = re.compile(r".*_(apply|compileGLObjects|copyTexImage2D|copyTexSubImage2D)$")
@@ -214,7 +222,7 @@ def make_calls(table, seed, chunk, size):
                 arg = "object()"
             if arg == STATE and GL_WORK.match(name):
                 arg = "object()"
-            if (name, k) in INDICES and (arg in INTS or arg in BOOLS):
+            if ((name, k) in INDICES or (k == 2 and SIZES.match(name))) and (arg in INTS or arg in BOOLS):
                 arg = rng.choice(HUGE)
             args.append(arg)
         calls.append((name, args))
@@ -348,10 +356,15 @@ def make_table(path, env=None):
         return json.load(f)
 
 
-def fuzz(n, seed=1, chunk_size=2000, table_path=None, env=None, log=print):
-    """Runs n calls; returns (reproducers of crashes and hangs, SystemError reports)."""
+def fuzz(n, seed=1, chunk_size=2000, table_path=None, env=None, log=print, table=None):
+    """Runs n calls; returns (reproducers of crashes and hangs, SystemError reports). A given
+    table replaces the probe's."""
     table_path = table_path or os.path.join(BUILD, "fuzz-table.json")
-    table = make_table(table_path, env)
+    if table is None:
+        table = make_table(table_path, env)
+    else:
+        with open(table_path, "w") as f:
+            json.dump(table, f)
     found, errors = [], []
     for chunk in range((n + chunk_size - 1) // chunk_size):
         size = min(chunk_size, n - chunk * chunk_size)
@@ -363,8 +376,9 @@ def fuzz(n, seed=1, chunk_size=2000, table_path=None, env=None, log=print):
                 break
             repro = reproduce(table_path, table, seed, chunk, size, index, env)
             if repro not in found:
-                log(f"crash: {repro}", flush=True)
                 found.append(repro)
+                if log:
+                    log(f"crash: {repro}", flush=True)
             start = index + 1  # go on with the rest of the chunk
         if log and (chunk + 1) % 10 == 0:
             log(f"fuzz: {min(n, (chunk + 1) * chunk_size)} calls, {len(found)} crashes", flush=True)
