@@ -3,6 +3,7 @@ or raises a Python exception; hard crashes and hangs are caught by running the c
 chunks in child interpreters and replayed to a one-line reproducer.
 
     python3 tests/fuzz.py [N] [--seed S] [--chunk C]     (or ./run fuzz [N])
+    python3 tests/fuzz.py --leaks     the leak tests with 10**4 calls a row (./run fuzz --leaks)
 
 The functions come from dir(_osg); a probe in a child interpreter learns each one's argument
 counts and types from its own messages (count messages, "argument k of type 'T'", overload
@@ -41,7 +42,8 @@ BUILD = os.environ.get("OSG_BUILD_DIR") or os.path.join(HERE, os.pardir, "build"
 # None reaches OSG, which dereferences it: (function, 1-based argument).
 NULL_DEREF = {("NotifyHandler_notify", 3), ("StandardNotifyHandler_notify", 3), ("Referenced_addObserver", 2),
               ("StateSet_setAssociatedModes", 2), ("StateSet_removeAssociatedModes", 2),
-              ("StateSet_setAssociatedTextureModes", 3), ("StateSet_removeAssociatedTextureModes", 3)}
+              ("StateSet_setAssociatedTextureModes", 3), ("StateSet_removeAssociatedTextureModes", 3),
+              ("Matrixd_set", 2), ("Matrixf_set", 2)}  # None takes set(float const *) and is read
 # Indices OSG reads without a bound check, or grows a container to: (function, 1-based argument).
 INDICES = {("Group_getChild", 2), ("Geode_getDrawable", 2), ("Node_getParent", 2), ("Node_getDescription", 2),
            ("StateAttribute_getParent", 2), ("StateSet_getParent", 2), ("Switch_getValue", 2),
@@ -275,7 +277,8 @@ def _limit():
 
 
 def run_worker(table_path, seed, chunk, size, picks="all", timeout=60, env=None):
-    """Returns (index of the call that crashed or hung, or None; SystemError reports)."""
+    """Returns (the index of the call that crashed or hung, None, or "start" or "exit" for a
+    crash outside the calls; SystemError reports)."""
     r, w = os.pipe()
     cmd = [sys.executable, __file__, "--worker", table_path, str(seed), str(chunk), str(size), picks]
     env = dict(env or os.environ, PYTHONPATH=os.pathsep.join([BUILD, HERE]), FUZZ_FD=str(w))
@@ -295,9 +298,9 @@ def run_worker(table_path, seed, chunk, size, picks="all", timeout=60, env=None)
     lines = text.decode().splitlines()
     errors = [ln for ln in lines if ln.startswith("S ")]
     started = [int(ln) for ln in lines if ln.isdigit()]
-    if lines and lines[-1] == "done" and proc.returncode == 0:
-        return None, errors
-    return (started[-1] if started else -1), errors
+    if lines and lines[-1] == "done":
+        return (None if proc.returncode == 0 else "exit"), errors
+    return (started[-1] if started else "start"), errors
 
 
 def _drain(fd):
@@ -374,6 +377,11 @@ def fuzz(n, seed=1, chunk_size=2000, table_path=None, env=None, log=print, table
             errors += errs
             if index is None:
                 break
+            if not isinstance(index, int):  # the interpreter failed at its start or at its exit
+                found.append(f"# seed {seed}, chunk {chunk} of {size}, calls {start}-{size}: crash at {index}")
+                if log:
+                    log(f"crash: {found[-1]}", flush=True)
+                break
             repro = reproduce(table_path, table, seed, chunk, size, index, env)
             if repro not in found:
                 found.append(repro)
@@ -398,7 +406,12 @@ def main(argv):
     parser.add_argument("n", nargs="?", type=int, default=100000)
     parser.add_argument("--seed", type=int, default=int(time.time()))
     parser.add_argument("--chunk", type=int, default=2000)
+    parser.add_argument("--leaks", action="store_true", help="instead, run the leak tests with 10**4 calls a row")
     a = parser.parse_args(argv)
+    if a.leaks:
+        return subprocess.call([sys.executable, "-m", "pytest", "-q", "-p", "no:cacheprovider", "-k", "leak",
+                                os.path.join(HERE, "test_leaks.py"), os.path.join(HERE, "test_scene.py")],
+                               env=dict(os.environ, OSG_LEAK_CALLS="10000"))
     start = time.time()
     print(f"fuzz: {a.n} calls, seed {a.seed}")
     found, errors = fuzz(a.n, a.seed, a.chunk)

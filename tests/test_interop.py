@@ -105,3 +105,19 @@ def test_second_import_reuses_the_type_table(run_py):
         fresh=True, moved="_p_osg__MatrixTransform", kept=True, modules=2,
         cvar="(Camera_FACE_CONTROLLED_BY_GEOMETRY_SHADER, Z_AXIS, Y_AXIS, X_AXIS)", x=[1, 0, 0],
         constants=[100, -1, 2147483647], message="swiginit expected 2 arguments, got 1", registered=True)
+
+
+@pytest.mark.parametrize("peer_first", [True, False])
+def test_exit_with_a_sibling_registered_classes_and_live_owners(run_py, peer_first):
+    out, err = run_py(f"""
+        if {peer_first}:
+            import _osgpeer, _osg
+        else:
+            import _osg, _osgpeer
+        import companion
+        live = [companion.Vec3f(1, 2, 3), companion.Quat(), companion.CopyOp(), companion.DummyObject(),
+                companion.StandardNotifyHandler(), companion.Referenced(), _osg.new_Vec4d(), _osg.new_Referenced()]
+        live.append(companion.Vec3f(1, 0, 0) + companion.Vec3f(0, 1, 0))  # an owned result
+        print("end")
+        """)
+    assert (out, err) == ("end\n", "")
