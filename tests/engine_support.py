@@ -113,9 +113,15 @@ libc = ctypes.CDLL(None)
 libc.mallinfo2.restype = _MallInfo2
 
 
+# Under AddressSanitizer malloc is ASan's, which keeps its own count.
+_asan_heap = getattr(libc, "__sanitizer_get_current_allocated_bytes", None)
+if _asan_heap:
+    _asan_heap.restype = ctypes.c_size_t
+
+
 def heap_bytes():
     """Bytes in use from malloc, where every C++ object of the module lives."""
-    return libc.mallinfo2().uordblks
+    return _asan_heap() if _asan_heap else libc.mallinfo2().uordblks
 
 
 def rss_bytes():

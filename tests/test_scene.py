@@ -204,8 +204,8 @@ def test_reference_counts_and_ownership(run_py):
     _osg.delete_Referenced(node)
     # A proxy dies while its node has a parent: the parent keeps the node.
     out, _ = run_py("""
-        import ctypes, _osg
-        zog = ctypes.CDLL([p for p in sys.path if p.endswith("build")][0] + "/libzogOSG.so")
+        import ctypes, os, _osg
+        zog = ctypes.CDLL(os.path.join(os.path.dirname(_osg.__file__), "libzogOSG.so"))
         class Group:
             __swig_destroy__ = _osg.delete_Group
             def __init__(self):
