@@ -1,4 +1,5 @@
 import json
+import os
 import sys
 import types
 
@@ -116,3 +117,16 @@ def test_each_swigregister_binds_its_class_descriptor(run_py):
         print(json.dumps({{n: _osgpeer.clientdata_class(descriptor(n))[0].__name__ for n in names}}))
         """)
     assert json.loads(out) == {n: n for n in REGISTERED}
+
+
+def test_includes_run_one_way():
+    """runtime, then the engine, then the families, then the entry: no layer includes one above it."""
+    import glob
+    import re
+    root = os.path.join(os.path.dirname(__file__), os.pardir)
+    layer = {"runtime": 0, "platform": 0, "wrap": 1, "math": 2, "scene": 2, "state": 2, "module": 3}
+    for path in glob.glob(os.path.join(root, "*", "*.[ch]*")):
+        here = os.path.basename(os.path.dirname(path))
+        if here in layer:
+            for target in re.findall(r'#include "(\w+)/', open(path).read()):
+                assert layer[target] <= layer[here] and (layer[target] < 2 or target == here), (path, target)

@@ -2,8 +2,8 @@
 // passed as a pointer proxy (by pointer, by reference, or as an owned heap copy when
 // returned by value); every other type must be a scalar, bool or C string.
 #pragma once
-#include "module/osg_headers.h"
-#include "module/types.h"
+#include "runtime/osg_headers.h"
+#include "runtime/type_table.h"
 
 #include <string>
 #include <vector>
