@@ -18,6 +18,7 @@
 
 #include <cstring>
 #include <functional>
+#include <string_view>
 #include <limits>
 #include <tuple>
 #include <utility>
@@ -380,9 +381,36 @@ struct Dispatch {
 
 using Row = PyMethodDef;
 
-template <class W, Text Name>
+// A method-table entry; its docstring starts as the C++ prototypes the row binds, one a
+// line (the module adds OSG's header comments to it when it loads).
+template <class W, Text Name, Text Doc>
 constexpr Row row() {
-    return {Static<Name>::c_str(), W::wrapper, W::flags, nullptr};
+    return {Static<Name>::c_str(), W::wrapper, W::flags, Static<Doc>::c_str()};
+}
+
+template <class... C>
+constexpr auto prototypes() {
+    return join<"\n">(C::proto...);
+}
+
+// The C++ member a Python name binds: the operators by their C++ spelling.
+template <Text Suffix>
+constexpr auto cxx_member() {
+    constexpr std::string_view s(Suffix.v);
+    if constexpr (s == "__eq__") return Text("operator ==");
+    else if constexpr (s == "__ne__") return Text("operator !=");
+    else if constexpr (s == "__lt__") return Text("operator <");
+    else if constexpr (s == "__add__") return Text("operator +");
+    else if constexpr (s == "__sub__" || s == "__neg__") return Text("operator -");
+    else if constexpr (s == "__mul__") return Text("operator *");
+    else if constexpr (s == "__truediv__") return Text("operator /");
+    else if constexpr (s == "__xor__") return Text("operator ^");
+    else if constexpr (s == "__iadd__") return Text("operator +=");
+    else if constexpr (s == "__isub__") return Text("operator -=");
+    else if constexpr (s == "__imul__") return Text("operator *=");
+    else if constexpr (s == "__itruediv__") return Text("operator /=");
+    else if constexpr (s == "__call__") return Text("operator ()");
+    else return Suffix;
 }
 
 // The last "::"-separated component of a qualified name: "osg::Vec3f" -> "Vec3f".
@@ -416,12 +444,13 @@ T *construct(A... a) {
 // Rows of free functions and static members, named in full.
 template <Text Name, auto F, Text... Spell>
 constexpr Row fn() {
-    return row<Single<Name, Call<Name, F, plain, Spell...>, plain>, Name>();
+    return row<Single<Name, Call<Name, F, plain, Spell...>, plain>, Name,
+               prototype<cat(Text("osg::"), Name), false, Spell...>()>();
 }
 
 template <Text Name, class... C>
 constexpr Row overload() {
-    return row<Dispatch<Name, plain, Order<>, C...>, Name>();
+    return row<Dispatch<Name, plain, Order<>, C...>, Name, prototypes<C...>()>();
 }
 
 // A candidate free function, e.g. fc<"osg::notify", F, "osg::NotifySeverity const">.
@@ -431,7 +460,7 @@ using fc = Cand<prototype<Qualified, false, Spell...>(), F, Spell...>;
 // A free binary operator: when no candidate matches, NotImplemented.
 template <Text Name, class... C>
 constexpr Row overload_op() {
-    return row<Dispatch<Name, binary_op, Order<>, C...>, Name>();
+    return row<Dispatch<Name, binary_op, Order<>, C...>, Name, prototypes<C...>()>();
 }
 
 // For families written as templates over the class: K's candidates without
@@ -478,9 +507,13 @@ struct Class {
         }
     }
 
+    template <Text Member>
+    static constexpr auto qualified = cat(Spelling, Text("::"), Member);
+
     template <Text Suffix, auto F, Policy P, Text... Spell>
     static constexpr Row single() {
-        return row<Single<name<Suffix>, Call<name<Suffix>, F, P, self<F>(), Spell...>, P>, name<Suffix>>();
+        return row<Single<name<Suffix>, Call<name<Suffix>, F, P, self<F>(), Spell...>, P>, name<Suffix>,
+                   prototype<qualified<cxx_member<Suffix>()>, const_self<F>, Spell...>()>();
     }
 
     // One member (or a callable whose argument 1 is the object).
@@ -495,13 +528,14 @@ struct Class {
     // A static member: no object argument.
     template <Text Suffix, auto F, Text... Spell>
     static constexpr Row static_fn() {
-        return row<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>>();
+        return row<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>,
+                   prototype<qualified<Suffix>, false, Spell...>()>();
     }
     // delete_<Prefix>: argument 1 disowned, then the action.
     template <auto Action>
     static constexpr Row dtor() {
         return row<Single<delete_name, Call<delete_name, Action, disown, cat(Spelling, Text(" *"))>, disown>,
-                   delete_name>();
+                   delete_name, cat(qualified<cat(Text("~"), unqualified<Spelling>())>, Text("()"))>();
     }
 
     static void unref_object(T *p) { p->unref(); }
@@ -527,7 +561,7 @@ struct Class {
 
     template <Text Suffix, class... C>
     static constexpr Row overload() {
-        return row<Dispatch<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
+        return row<Dispatch<name<Suffix>, plain, Order<>, C...>, name<Suffix>, prototypes<C...>()>();
     }
     // A const/non-const accessor pair; the non-const member, listed first, is always taken.
     // Spell... spells the arguments both members share.
@@ -537,15 +571,15 @@ struct Class {
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_op() {
-        return row<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>>();
+        return row<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>, prototypes<C...>()>();
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_inplace() {
-        return row<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>>();
+        return row<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>, prototypes<C...>()>();
     }
     template <Text Suffix, class TryOrder, class... C>
     static constexpr Row overload_ordered() {
-        return row<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>>();
+        return row<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>, prototypes<C...>()>();
     }
 
     // new_<Prefix>: one constructor, or a dispatcher over several.
@@ -553,9 +587,9 @@ struct Class {
     static constexpr Row ctor() {
         constexpr Policy p{Result::New, false, R};
         if constexpr (sizeof...(C) == 1) {
-            return row<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name>();
+            return row<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name, prototypes<C...>()>();
         } else {
-            return row<Dispatch<new_name, p, Order<>, C...>, new_name>();
+            return row<Dispatch<new_name, p, Order<>, C...>, new_name, prototypes<C...>()>();
         }
     }
 };
