@@ -10,6 +10,10 @@
 
 namespace wrap {
 
+// A converter's probe is a dispatcher's type test that keeps what it found: 0 when the
+// object does not fit, 1 when it fits and the stored value is the conversion, 2 when it
+// fits but only the full conversion can say what is wrong with it (a null reference).
+//
 // Every converter takes the argument's message texts as a type M: M::plain is
 // "in method '...', argument N of type '...'", M::null_ref the same prefixed by
 // "invalid null reference ", M::spelling the declared type.
@@ -47,9 +51,17 @@ struct Arg<T *> {
         out = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) {
-        void *p;
-        return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_ConvertPtr(o, &p, descriptor<T>()) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return 1;
+    }
+    static int probe_self(PyObject *o, Store &out, SwigPyObject *&matched) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrMatch(o, &p, descriptor<T>(), 0, &matched) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return 1;
     }
     static T *get(Store s) { return s; }
 };
@@ -66,7 +78,13 @@ struct Arg<T &> {
         out = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) { return SWIG_CheckPtr(o, descriptor<T>()) == SWIG_OK; }
+    // A proxy holding null passes the test; only its conversion can report it.
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrAndOwn(o, &p, descriptor<T>(), SWIG_POINTER_NO_NULL) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return p ? 1 : 2;
+    }
     static T &get(Store s) { return *s; }
 };
 
@@ -108,7 +126,7 @@ struct Scalar {
         if (res < 0) return fail(SWIG_Python_ErrorType(res), M::plain.v);
         return true;
     }
-    static bool test(PyObject *o) { return as(o, nullptr) >= 0; }
+    static int probe(PyObject *o, Store &out) { return as(o, &out) >= 0; }
     static T get(Store s) { return s; }
 };
 
@@ -132,7 +150,10 @@ struct Arg<bool> {
         out = r != 0;
         return true;
     }
-    static bool test(PyObject *o) { return PyBool_Check(o); }
+    static int probe(PyObject *o, Store &out) {
+        out = o == Py_True;
+        return PyBool_Check(o);
+    }
     static bool get(Store s) { return s; }
 };
 
@@ -170,7 +191,7 @@ struct Arg<const char *> {
     static bool convert(PyObject *o, Store &out, int) {
         return as_cstring(o, &out) || fail(PyExc_TypeError, M::plain.v);
     }
-    static bool test(PyObject *o) { return as_cstring(o, nullptr); }
+    static int probe(PyObject *o, Store &out) { return as_cstring(o, &out); }
     static const char *get(Store s) { return s; }
 };
 
@@ -194,9 +215,11 @@ struct Arg<ArrayIn<T, N>> {
         out.data = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) {
-        void *p;
-        return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_ConvertPtr(o, &p, descriptor<T>()) != SWIG_OK) return 0;
+        out.data = static_cast<T *>(p);
+        return p ? 1 : 2;
     }
     static Store get(Store s) { return s; }
 };
@@ -229,7 +252,12 @@ struct Arg<Handle<D, T>> {
         out = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) { return SWIG_CheckPtr(o, swig_types[D]) == SWIG_OK; }
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrAndOwn(o, &p, swig_types[D], SWIG_POINTER_NO_NULL) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return p ? 1 : 2;
+    }
     static T get(Store s) { return *s; }
 };
 

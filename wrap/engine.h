@@ -175,12 +175,37 @@ struct Call {
     struct Run;
     template <class... A>
     struct Run<List<A...>> {
+        using Stores = std::tuple<typename Arg<A>::Store...>;
+
         template <std::size_t... I>
         static PyObject *call(PyObject *const *argv, std::index_sequence<I...>) {
-            std::tuple<typename Arg<A>::Store...> v{};
+            Stores v{};
             [[maybe_unused]] SwigPyObject *self = nullptr;
             // && folds left to right and stops at the first failure.
             if (!(convert<I, A>(argv[I], std::get<I>(v), self) && ...)) return nullptr;
+            return invoke(v, self, std::index_sequence<I...>{});
+        }
+
+        // A dispatcher's test of every argument, keeping the values it found (0, 1 or 2 as a
+        // converter's probe answers).
+        template <std::size_t... I>
+        static int probe(PyObject *const *argv, Stores &v, SwigPyObject *&self, std::index_sequence<I...>) {
+            int worst = 1;
+            [[maybe_unused]] auto one = [&]<std::size_t J, class A1>(PyObject *o, typename Arg<A1>::Store &out) {
+                int k;
+                if constexpr (J == 0 && P.result == Result::InPlace) {
+                    k = Arg<A1>::probe_self(o, out, self);
+                } else {
+                    k = Arg<A1>::probe(o, out);
+                }
+                worst = std::max(worst, k);
+                return k != 0;
+            };
+            return (one.template operator()<I, A>(argv[I], std::get<I>(v)) && ...) ? worst : 0;
+        }
+
+        template <std::size_t... I>
+        static PyObject *invoke(Stores &v, [[maybe_unused]] SwigPyObject *self, std::index_sequence<I...>) {
             if constexpr (P.result == Result::InPlace) {
                 // Only now that every argument converted does the incoming proxy give up
                 // ownership, and the result owns exactly when it did: a borrowed proxy (of a
@@ -190,7 +215,7 @@ struct Call {
                 if (self) SwigPyObject_setown(self, 0);
                 std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
                 return SWIG_Python_NewPointerObj(address(std::get<0>(v)), descriptor_for<0>(), owned);
-            } else if constexpr (std::is_void_v<Ret> && P.result != Result::InPlace) {
+            } else if constexpr (std::is_void_v<Ret>) {
                 std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
                 Py_RETURN_NONE;
             } else if constexpr (P.result == Result::New) {
@@ -221,17 +246,18 @@ struct Call {
             }
         }
 
-        static bool test(PyObject *const *argv) {
-            return [&]<std::size_t... I>(std::index_sequence<I...>) {
-                return (Arg<A>::test(argv[I]) && ...);
-            }(std::index_sequence_for<A...>{});
-        }
     };
 
+    using Stores = typename Run<Params>::Stores;
     static PyObject *call(PyObject *const *argv) {
         return Run<Params>::call(argv, std::make_index_sequence<arity>{});
     }
-    static bool test(PyObject *const *argv) { return Run<Params>::test(argv); }
+    static int probe(PyObject *const *argv, Stores &v, SwigPyObject *&self) {
+        return Run<Params>::probe(argv, v, self, std::make_index_sequence<arity>{});
+    }
+    static PyObject *invoke(Stores &v, SwigPyObject *self) {
+        return Run<Params>::invoke(v, self, std::make_index_sequence<arity>{});
+    }
 };
 
 // ---- calling conventions ---------------------------------------------------------------
@@ -351,8 +377,13 @@ struct Dispatch {
     template <std::size_t K>
     static bool try_one(PyObject *const *argv, Py_ssize_t argc, PyObject *&result) {
         using B = typename std::tuple_element_t<order[K], std::tuple<C...>>::template bound<Name, candidate_policy>;
-        if ((Py_ssize_t)B::arity != argc || !B::test(argv)) return false;
-        result = B::call(argv);
+        if ((Py_ssize_t)B::arity != argc) return false;
+        typename B::Stores v{};
+        SwigPyObject *self = nullptr;
+        int fit = B::probe(argv, v, self);
+        if (!fit) return false;
+        // What the test kept is the conversion; a converter with more to say converts anew.
+        result = fit == 1 ? B::invoke(v, self) : B::call(argv);
         return true;
     }
 

@@ -365,6 +365,12 @@ PyObject *container_items(PyObject *, PyObject *arg) {
 
 // ---- runtime introspection ------------------------------------------------------------
 
+// The version tag of a class's attribute cache: 0 once CPython stopped caching for it.
+PyObject *type_version(PyObject *, PyObject *arg) {
+    if (!PyType_Check(arg)) return PyErr_Format(PyExc_TypeError, "a class");
+    return PyLong_FromUnsignedLong(((PyTypeObject *)arg)->tp_version_tag);
+}
+
 PyObject *ring_tables(PyObject *, PyObject *) {
     PyObject *out = PyList_New(0);
     swig_module_info *head = ring();
@@ -795,6 +801,7 @@ PyMethodDef methods[] = {
     {"glenum_ptr", glenum_ptr, METH_NOARGS, nullptr},
     {"points", points, METH_VARARGS, nullptr},
     {"ring_tables", ring_tables, METH_NOARGS, nullptr},
+    {"type_version", type_version, METH_O, nullptr},
     {"own_module", own_module, METH_NOARGS, nullptr},
     {"cast_list", cast_list, METH_O, nullptr},
     {"type_query", type_query, METH_O, nullptr},
