@@ -38,6 +38,7 @@ constexpr Text mask = "osg::Camera::ImplicitBufferAttachmentMask";
 constexpr Text v3 = "osg::Vec3d &";
 constexpr Text v3f = "osg::Vec3f &";
 constexpr Text dc = "osg::Camera::DrawCallback *";
+constexpr Text order = "osg::Camera::RenderOrder";
 
 // The short forms call the member by name, so OSG's own defaults fill in the rest.
 constexpr auto attach = [](C *c, auto... a) { c->attach(a...); };
@@ -46,6 +47,27 @@ constexpr auto resize = [](C *c, auto... a) { c->resize(a...); };
 constexpr auto implicit_masks = [](C *c, auto... a) { c->setImplicitBufferAttachmentMask(a...); };
 constexpr auto render_order = [](C *c, auto... a) { c->setRenderOrder(a...); };
 constexpr auto release = [](const C *c, auto... a) { c->releaseGLObjects(a...); };
+
+template <Text Member, auto F, Text... Spell>
+using m = K::m<Member, F, Spell...>;
+
+// The header declares these const getters first: the const one is always taken.
+template <Text Member, auto Const, auto NonConst>
+constexpr Row const_first() {
+    return K::overload<Member, m<Member, Const>, m<Member, NonConst>>();
+}
+
+// A Matrixf proxy selects the single-precision form.
+template <Text Member, void (C::*F)(const osg::Matrixf &), void (C::*D)(const osg::Matrixd &)>
+constexpr Row matrix_setter() {
+    return K::overload<Member, m<Member, F, "osg::Matrixf const &">, m<Member, D, "osg::Matrixd const &">>();
+}
+
+// The stored mask, or with `effectiveMask` true the display settings' in place of USE_DISPLAY_SETTINGS_MASK.
+template <Text Member, Mask (C::*Stored)() const, Mask (C::*Effective)(bool) const>
+constexpr Row mask_getter() {
+    return K::overload<Member, m<Member, Stored>, m<Member, Effective, "bool">>();
+}
 
 template <Text Op, Text Kind>
 constexpr auto draw = cat(Op, Kind, Text("DrawCallback"));
@@ -83,23 +105,17 @@ void add_camera_rows(Table &t) {
         K::fn<"getClearDepth", &C::getClearDepth>(),
         K::fn<"setClearStencil", &C::setClearStencil, "int">(),
         K::fn<"getClearStencil", &C::getClearStencil>(),
-        K::overload<"setColorMask", K::m<"setColorMask", pick<void (C::*)(osg::ColorMask *)>(&C::setColorMask), "osg::ColorMask *">,
-                    K::m<"setColorMask", pick<void (C::*)(bool, bool, bool, bool)>(&C::setColorMask), "bool", "bool", "bool", "bool">>(),
-        // The header declares the const getter first: it is always the one taken.
-        K::overload<"getColorMask", K::m<"getColorMask", CC<osg::ColorMask>(&C::getColorMask)>,
-                    K::m<"getColorMask", NC<osg::ColorMask>(&C::getColorMask)>>(),
-        K::overload<"setViewport", K::m<"setViewport", pick<void (C::*)(osg::Viewport *)>(&C::setViewport), "osg::Viewport *">,
-                    K::m<"setViewport", pick<void (C::*)(int, int, int, int)>(&C::setViewport), "int", "int", "int", "int">>(),
-        K::overload<"getViewport", K::m<"getViewport", CC<osg::Viewport>(&C::getViewport)>,
-                    K::m<"getViewport", NC<osg::Viewport>(&C::getViewport)>>(),
+        K::overload<"setColorMask", m<"setColorMask", pick<void (C::*)(osg::ColorMask *)>(&C::setColorMask), "osg::ColorMask *">,
+                    m<"setColorMask", pick<void (C::*)(bool, bool, bool, bool)>(&C::setColorMask), "bool", "bool", "bool", "bool">>(),
+        const_first<"getColorMask", CC<osg::ColorMask>(&C::getColorMask), NC<osg::ColorMask>(&C::getColorMask)>(),
+        K::overload<"setViewport", m<"setViewport", pick<void (C::*)(osg::Viewport *)>(&C::setViewport), "osg::Viewport *">,
+                    m<"setViewport", pick<void (C::*)(int, int, int, int)>(&C::setViewport), "int", "int", "int", "int">>(),
+        const_first<"getViewport", CC<osg::Viewport>(&C::getViewport), NC<osg::Viewport>(&C::getViewport)>(),
         K::fn<"setTransformOrder", &C::setTransformOrder, "osg::Camera::TransformOrder">(),
         K::fn<"getTransformOrder", &C::getTransformOrder>(),
         K::fn<"setProjectionResizePolicy", &C::setProjectionResizePolicy, "osg::Camera::ProjectionResizePolicy">(),
         K::fn<"getProjectionResizePolicy", &C::getProjectionResizePolicy>(),
-        // A Matrixf proxy selects the single-precision form.
-        K::overload<"setProjectionMatrix",
-                    K::m<"setProjectionMatrix", pick<void (C::*)(const osg::Matrixf &)>(&C::setProjectionMatrix), "osg::Matrixf const &">,
-                    K::m<"setProjectionMatrix", pick<void (C::*)(const osg::Matrixd &)>(&C::setProjectionMatrix), "osg::Matrixd const &">>(),
+        matrix_setter<"setProjectionMatrix", &C::setProjectionMatrix, &C::setProjectionMatrix>(),
         K::fn<"setProjectionMatrixAsOrtho", &C::setProjectionMatrixAsOrtho, d, d, d, d, d, d>(),
         K::fn<"setProjectionMatrixAsOrtho2D", &C::setProjectionMatrixAsOrtho2D, d, d, d, d>(),
         K::fn<"setProjectionMatrixAsFrustum", &C::setProjectionMatrixAsFrustum, d, d, d, d, d, d>(),
@@ -108,28 +124,27 @@ void add_camera_rows(Table &t) {
         K::fn<"getProjectionMatrixAsOrtho", &C::getProjectionMatrixAsOrtho, dref, dref, dref, dref, dref, dref>(),
         K::fn<"getProjectionMatrixAsFrustum", &C::getProjectionMatrixAsFrustum, dref, dref, dref, dref, dref, dref>(),
         K::fn<"getProjectionMatrixAsPerspective", &C::getProjectionMatrixAsPerspective, dref, dref, dref, dref>(),
-        K::overload<"setViewMatrix",
-                    K::m<"setViewMatrix", pick<void (C::*)(const osg::Matrixf &)>(&C::setViewMatrix), "osg::Matrixf const &">,
-                    K::m<"setViewMatrix", pick<void (C::*)(const osg::Matrixd &)>(&C::setViewMatrix), "osg::Matrixd const &">>(),
+        matrix_setter<"setViewMatrix", &C::setViewMatrix, &C::setViewMatrix>(),
         K::pair<"getViewMatrix", NR<osg::Matrixd>(&C::getViewMatrix), CR<osg::Matrixd>(&C::getViewMatrix)>(),
         K::fn<"setViewMatrixAsLookAt", &C::setViewMatrixAsLookAt, "osg::Vec3d const &", "osg::Vec3d const &", "osg::Vec3d const &">(),
-        K::overload<"getViewMatrixAsLookAt", K::forms<"getViewMatrixAsLookAt", look_at, 3, List<const C *, V3 &, V3 &, V3 &, double>, v3, v3, v3, d>,
+        K::overload<"getViewMatrixAsLookAt", K::forms<"getViewMatrixAsLookAt", look_at, 3, List<const C *, V3 &, V3 &, V3 &, double>,
+                                                      v3, v3, v3, d>,
                     K::forms<"getViewMatrixAsLookAt", look_at, 3, List<const C *, V3f &, V3f &, V3f &, float>, v3f, v3f, v3f, "float">>(),
         K::fn<"getInverseViewMatrix", &C::getInverseViewMatrix>(),
-        K::overload<"setRenderOrder", K::forms<"setRenderOrder", render_order, 1, List<C *, C::RenderOrder, int>, "osg::Camera::RenderOrder", "int">>(),
+        K::overload<"setRenderOrder", K::forms<"setRenderOrder", render_order, 1, List<C *, C::RenderOrder, int>, order, "int">>(),
         K::fn<"getRenderOrder", &C::getRenderOrder>(),
         K::fn<"getRenderOrderNum", &C::getRenderOrderNum>(),
         K::fn<"isRenderToTextureCamera", &C::isRenderToTextureCamera>(),
         K::overload<"setRenderTargetImplementation",
-                    K::m<"setRenderTargetImplementation", pick<void (C::*)(Impl)>(&C::setRenderTargetImplementation), impl>,
-                    K::m<"setRenderTargetImplementation", pick<void (C::*)(Impl, Impl)>(&C::setRenderTargetImplementation), impl, impl>>(),
+                    m<"setRenderTargetImplementation", pick<void (C::*)(Impl)>(&C::setRenderTargetImplementation), impl>,
+                    m<"setRenderTargetImplementation", pick<void (C::*)(Impl, Impl)>(&C::setRenderTargetImplementation), impl, impl>>(),
         K::fn<"getRenderTargetImplementation", &C::getRenderTargetImplementation>(),
         K::fn<"getRenderTargetFallback", &C::getRenderTargetFallback>(),
         K::fn<"setDrawBuffer", &C::setDrawBuffer, glenum>(),
         K::fn<"getDrawBuffer", returns_handle<ty::p_GLenum, &C::getDrawBuffer>>(),
         K::fn<"setReadBuffer", &C::setReadBuffer, glenum>(),
         K::fn<"getReadBuffer", returns_handle<ty::p_GLenum, &C::getReadBuffer>>(),
-        K::overload<"attach", K::m<"attach", pick<void (C::*)(BC, GLenum)>(&C::attach), bc, glenum>,
+        K::overload<"attach", m<"attach", pick<void (C::*)(BC, GLenum)>(&C::attach), bc, glenum>,
                     K::forms<"attach", attach, 2, List<C *, BC, osg::Texture *, unsigned, unsigned, bool, unsigned, unsigned>, bc,
                              "osg::Texture *", ui, ui, "bool", ui, ui>,
                     K::forms<"attach", attach, 2, List<C *, BC, osg::Image *, unsigned, unsigned>, bc, "osg::Image *", ui, ui>>(),
@@ -145,12 +160,10 @@ void add_camera_rows(Table &t) {
                     K::forms<"setImplicitBufferAttachmentMask", implicit_masks, 0, List<C *, Mask, Mask>, mask, mask>>(),
         K::fn<"setImplicitBufferAttachmentRenderMask", &C::setImplicitBufferAttachmentRenderMask, mask>(),
         K::fn<"setImplicitBufferAttachmentResolveMask", &C::setImplicitBufferAttachmentResolveMask, mask>(),
-        K::overload<"getImplicitBufferAttachmentRenderMask",
-                    K::m<"getImplicitBufferAttachmentRenderMask", pick<Mask (C::*)() const>(&C::getImplicitBufferAttachmentRenderMask)>,
-                    K::m<"getImplicitBufferAttachmentRenderMask", pick<Mask (C::*)(bool) const>(&C::getImplicitBufferAttachmentRenderMask), "bool">>(),
-        K::overload<"getImplicitBufferAttachmentResolveMask",
-                    K::m<"getImplicitBufferAttachmentResolveMask", pick<Mask (C::*)() const>(&C::getImplicitBufferAttachmentResolveMask)>,
-                    K::m<"getImplicitBufferAttachmentResolveMask", pick<Mask (C::*)(bool) const>(&C::getImplicitBufferAttachmentResolveMask), "bool">>(),
+        mask_getter<"getImplicitBufferAttachmentRenderMask", &C::getImplicitBufferAttachmentRenderMask,
+                    &C::getImplicitBufferAttachmentRenderMask>(),
+        mask_getter<"getImplicitBufferAttachmentResolveMask", &C::getImplicitBufferAttachmentResolveMask,
+                    &C::getImplicitBufferAttachmentResolveMask>(),
         K::fn<"setProcessorAffinity", &C::setProcessorAffinity, "OpenThreads::Affinity const &">(),
         K::pair<"getProcessorAffinity", NR<OpenThreads::Affinity>(&C::getProcessorAffinity),
                 CR<OpenThreads::Affinity>(&C::getProcessorAffinity)>(),
