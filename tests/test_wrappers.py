@@ -8,6 +8,7 @@ from engine_support import VECTORS, _osg, mk, raises  # noqa: F401  (mk is a fix
 CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS,
            "Matrixd", "Matrixf", "RefMatrixd", "RefMatrixf", "Plane"}
 CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
+CLASSES |= {"Camera", "CameraRenderOrderSortOp"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
           "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide"}
 
