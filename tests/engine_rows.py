@@ -119,7 +119,10 @@ def base():
              ["Sn", "S"], False),
         Disp("new_DummyObject", D,
              protos("osg::DummyObject", D, [], ["osg::DummyObject const &", "osg::CopyOp const &"]), ["", "vc"], False),
-        m(D, "clone", "sc", True), m(D, "isSameKindAs", "so", True)]
+        m(D, "clone", "sc", True), m(D, "isSameKindAs", "so", True),
+        free("resizeGLObjectBuffers", "oi", "osg::Object *"),
+        Disp("releaseGLObjects", None, ["osg::releaseGLObjects(osg::Object *,osg::State *)",
+                                        "osg::releaseGLObjects(osg::Object *)"], ["on", "o", "nn"], False)]
     rows += [m(R, f, "s", True) for f in ["getThreadSafeRefUnref", "getRefMutex", "unref_nodelete", "referenceCount",
                                            "getObserverSet", "getOrCreateObserverSet"]]
     rows += [m(O, f, "s", True) for f in ["cloneType", "libraryName", "className", "getCompoundClassName", "getName",
@@ -307,7 +310,7 @@ def attributes():
     rows += [pair(SA, f) for f in ["asStateAttribute", "asTexture", "getUpdateCallback", "getEventCallback"]]
     rows += [m(SA, f, "s", True) for f in ["cloneType", "libraryName", "className", "getType", "getMember",
                                             "getTypeMemberPair", "isTextureAttribute", "getParents", "getNumParents"]]
-    own = {"Fog": (True, False, True), "ColorMask": (True, False, False), "ClipPlane": (False, True, True),
+    own = {"Fog": (True, False, True), "ColorMask": (True, False, False), "ClipPlane": (True, True, True),
            "Viewport": (True, False, False)}
     for C, (typ, member, modes) in own.items():
         O, cref = f"osg::{C}", f"osg::{C} const &"

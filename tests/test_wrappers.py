@@ -10,7 +10,8 @@ CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "St
 CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
 CLASSES |= {"Camera", "CameraRenderOrderSortOp"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
-          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide"}
+          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide", "resizeGLObjectBuffers",
+          "releaseGLObjects"}
 
 
 def in_scope(name):
