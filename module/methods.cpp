@@ -64,8 +64,8 @@ std::vector<PyMethodDef> build() {
     add_color_mask_rows(t);
     add_viewport_rows(t);
     add_group_rows(t);
-    hooks<ty::p_osg__Camera, "Camera">(t);
-    hooks<ty::p_osg__CameraRenderOrderSortOp, "CameraRenderOrderSortOp">(t);
+    add_camera_rows(t);
+    add_camera_render_order_sort_op_rows(t);
     add_switch_rows(t);
     add_smoothing_visitor_rows(t);
     add_transform_rows(t);

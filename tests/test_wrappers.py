@@ -8,8 +8,10 @@ from engine_support import VECTORS, _osg, mk, raises  # noqa: F401  (mk is a fix
 CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS,
            "Matrixd", "Matrixf", "RefMatrixd", "RefMatrixf", "Plane"}
 CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
+CLASSES |= {"Camera", "CameraRenderOrderSortOp"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
-          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide"}
+          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide", "resizeGLObjectBuffers",
+          "releaseGLObjects"}
 
 
 def in_scope(name):

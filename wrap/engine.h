@@ -372,6 +372,7 @@ struct Dispatch {
     static constexpr auto message =
         cat(Text("Wrong number or type of arguments for overloaded function '"), Name,
             Text("'.\n  Possible C/C++ prototypes are:\n"), cat(Text("    "), C::proto, Text("\n"))...);
+    static constexpr auto doc = join<"\n">(C::proto...);
     static constexpr int flags = METH_VARARGS;
     static constexpr Policy candidate_policy{P.result, false, P.take_ref};
     static constexpr auto order = try_order<C...>(TryOrder{});
@@ -484,6 +485,59 @@ struct Described {
     static inline const bool registered = (described_rows().push_back(&info), true);
 };
 
+// ---- short forms: a member's trailing default arguments ----------------------------------
+
+// Several candidates given as one, spliced into the dispatcher in place (see forms<...>).
+template <class... C>
+struct Cands {};
+
+template <class Done, class... C>
+struct Flat {
+    using type = Done;
+};
+template <class... D, class C, class... Rest>
+struct Flat<Cands<D...>, C, Rest...> : Flat<Cands<D..., C>, Rest...> {};
+template <class... D, class... E, class... Rest>
+struct Flat<Cands<D...>, Cands<E...>, Rest...> : Flat<Cands<D..., E...>, Rest...> {};
+
+template <Text Name, Policy P, class TryOrder, class L>
+struct Spliced;
+template <Text Name, Policy P, class TryOrder, class... C>
+struct Spliced<Name, P, TryOrder, Cands<C...>> {
+    using type = Dispatch<Name, P, TryOrder, C...>;
+};
+template <Text Name, Policy P, class TryOrder, class... C>
+using DispatchOf = typename Spliced<Name, P, TryOrder, typename Flat<Cands<>, C...>::type>::type;
+
+template <std::size_t I, Text... S>
+inline constexpr auto nth_text = std::get<I>(std::make_tuple(S...));
+
+// The form of a member that passes its first sizeof...(I) parameters: Invoke, a captureless
+// generic lambda naming the member, called through a function pointer of exactly those types.
+template <class K, Text Member, auto Invoke, class Self, class Args, class Index, Text... Spell>
+struct Form;
+template <class K, Text Member, auto Invoke, class Self, class... A, std::size_t... I, Text... Spell>
+struct Form<K, Member, Invoke, Self, std::tuple<A...>, std::index_sequence<I...>, Spell...> {
+    template <std::size_t J>
+    using P = std::tuple_element_t<J, std::tuple<A...>>;
+    using R = decltype(Invoke(std::declval<Self>(), std::declval<P<I>>()...));
+    static constexpr auto fn = static_cast<R (*)(Self, P<I>...)>(Invoke);
+    using type = typename K::template m<Member, fn, nth_text<I, Spell...>...>;
+};
+
+// All forms of a member whose parameters after the first Min have defaults, longest first.
+template <class K, Text Member, auto Invoke, std::size_t Min, class Params, Text... Spell>
+struct Forms;
+template <class K, Text Member, auto Invoke, std::size_t Min, class Self, class... A, Text... Spell>
+struct Forms<K, Member, Invoke, Min, List<Self, A...>, Spell...> {
+    static_assert(sizeof...(A) == sizeof...(Spell) && Min <= sizeof...(A), "one spelling per parameter");
+    template <std::size_t... J>
+    static auto make(std::index_sequence<J...>)
+        -> Cands<typename Form<K, Member, Invoke, Self, std::tuple<A...>, std::make_index_sequence<sizeof...(A) - J>,
+                               Spell...>::type...>;
+    using type = decltype(make(std::make_index_sequence<sizeof...(A) - Min + 1>{}));
+};
+
 // ---- rows -----------------------------------------------------------------------------
 
 using Row = PyMethodDef;
@@ -509,6 +563,11 @@ template <class W, Text Name, Text Doc, Text Owner = Text(""), Text Prefix = Tex
 constexpr Row row() {
     (void)&Describe<W, Doc>::template as<Name, Owner, Prefix>::registered;
     return {Static<Name>::c_str(), W::wrapper, W::flags, Static<Doc>::c_str()};
+}
+// A dispatcher documents itself: its candidates' prototypes.
+template <class W, Text Name>
+constexpr Row row() {
+    return row<W, Name, W::doc>();
 }
 
 template <class... C>
@@ -573,7 +632,7 @@ constexpr Row fn() {
 
 template <Text Name, class... C>
 constexpr Row overload() {
-    return row<Dispatch<Name, plain, Order<>, C...>, Name, prototypes<C...>()>();
+    return row<DispatchOf<Name, plain, Order<>, C...>, Name>();
 }
 
 // A candidate free function, e.g. fc<"osg::notify", F, "osg::NotifySeverity const">.
@@ -583,7 +642,7 @@ using fc = Cand<prototype<Qualified, false, Spell...>(), F, Spell...>;
 // A free binary operator: when no candidate matches, NotImplemented.
 template <Text Name, class... C>
 constexpr Row overload_op() {
-    return row<Dispatch<Name, binary_op, Order<>, C...>, Name, prototypes<C...>()>();
+    return row<Dispatch<Name, binary_op, Order<>, C...>, Name>();
 }
 
 // For families written as templates over the class: K's candidates without
@@ -633,6 +692,8 @@ struct Class {
     // A row of this class's table.
     template <class W, Text N, Text Doc>
     static constexpr Row crow() { return row<W, N, Doc, Spelling, Prefix>(); }
+    template <class W, Text N>
+    static constexpr Row crow() { return row<W, N, W::doc, Spelling, Prefix>(); }
 
     template <Text Member>
     static constexpr auto qualified = cat(Spelling, Text("::"), Member);
@@ -688,8 +749,13 @@ struct Class {
 
     template <Text Suffix, class... C>
     static constexpr Row overload() {
-        return crow<Dispatch<name<Suffix>, plain, Order<>, C...>, name<Suffix>, prototypes<C...>()>();
+        return crow<DispatchOf<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
     }
+    // The forms of a member with trailing defaults, longest first down to Min parameters after
+    // the object; Invoke names the member, so the library's own defaults fill in the rest:
+    //   forms<"resize", [](C *c, auto... a) { c->resize(a...); }, 2, List<C *, int, int, int>, "int", "int", "int">
+    template <Text Member, auto Invoke, std::size_t Min, class Params, Text... Spell>
+    using forms = typename Forms<Class, Member, Invoke, Min, Params, Spell...>::type;
     // A const/non-const accessor pair; the non-const member, listed first, is always taken.
     // Spell... spells the arguments both members share.
     template <Text Member, auto NonConst, auto Const, Text... Spell>
@@ -698,15 +764,15 @@ struct Class {
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_op() {
-        return crow<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>, prototypes<C...>()>();
+        return crow<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>>();
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_inplace() {
-        return crow<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>, prototypes<C...>()>();
+        return crow<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>>();
     }
     template <Text Suffix, class TryOrder, class... C>
     static constexpr Row overload_ordered() {
-        return crow<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>, prototypes<C...>()>();
+        return crow<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>>();
     }
 
     // new_<Prefix>: one constructor, or a dispatcher over several.
@@ -716,7 +782,7 @@ struct Class {
         if constexpr (sizeof...(C) == 1) {
             return crow<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name, prototypes<C...>()>();
         } else {
-            return crow<Dispatch<new_name, p, Order<>, C...>, new_name, prototypes<C...>()>();
+            return crow<Dispatch<new_name, p, Order<>, C...>, new_name>();
         }
     }
 };
