@@ -34,6 +34,7 @@ template <Wrapped T>
 struct Arg<T *> {
     using Store = T *;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "pointer";
     template <class M>
     static bool convert(PyObject *o, Store &out, int flags) {
         void *p = nullptr;
@@ -70,6 +71,7 @@ template <Wrapped T>
 struct Arg<T &> {
     using Store = T *;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "reference";
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         void *p = nullptr;
@@ -94,6 +96,7 @@ template <class T>
 struct Scalar {
     using Store = T;
     static constexpr Rank rank = Rank::Other;
+    static constexpr const char *kind = "scalar";
     static int as(PyObject *o, T *v) {
         if constexpr (std::is_same_v<T, double>) {
             return SWIG_AsVal_double(o, v);
@@ -143,6 +146,7 @@ template <>
 struct Arg<bool> {
     using Store = bool;
     static constexpr Rank rank = Rank::Other;
+    static constexpr const char *kind = "bool";
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         int r = PyBool_Check(o) ? PyObject_IsTrue(o) : -1;
@@ -187,6 +191,7 @@ template <>
 struct Arg<const char *> {
     using Store = const char *;
     static constexpr Rank rank = Rank::Other;
+    static constexpr const char *kind = "cstring";
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         return as_cstring(o, &out) || fail(PyExc_TypeError, M::plain.v);
@@ -206,6 +211,8 @@ template <class T, std::size_t N>
 struct Arg<ArrayIn<T, N>> {
     using Store = ArrayIn<T, N>;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "array";
+    static constexpr int descriptor_index = descriptor_of<T>;
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         static constexpr auto null_var = cat(Text("invalid null reference in variable '_v' of type '"), M::spelling, Text("'"));
@@ -244,6 +251,8 @@ template <int D, class T>
 struct Arg<Handle<D, T>> {
     using Store = T *;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "handle";
+    static constexpr int descriptor_index = D;
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         void *p = nullptr;
@@ -300,6 +309,57 @@ PyObject *to_python(R &&r) {
     } else {
         static_assert(Wrapped<T>, "by-value result of a type without a descriptor");
         return SWIG_Python_NewPointerObj(new T(static_cast<R &&>(r)), descriptor<T>(), SWIG_POINTER_OWN);
+    }
+}
+
+// ---- kinds as data, for the description of the tables (engine.h) ----------------------
+
+// The descriptor a parameter of type A crosses with, or -1 for numbers, bools and C strings.
+template <class A>
+constexpr int param_descriptor() {
+    using P = std::remove_cv_t<A>;
+    if constexpr (requires { Arg<P>::descriptor_index; }) {
+        return Arg<P>::descriptor_index;
+    } else if constexpr (std::is_same_v<P, const char *>) {
+        return -1;
+    } else if constexpr (std::is_pointer_v<P> || std::is_reference_v<P>) {
+        return descriptor_of<std::remove_cv_t<std::remove_pointer_t<std::remove_reference_t<P>>>>;
+    } else {
+        return -1;
+    }
+}
+
+// What to_python makes of a result of type R: its kind and, for pointer objects, descriptor
+// and ownership (1 = an owned heap copy).
+struct ResultKind {
+    const char *kind;
+    int descriptor;
+    int own;
+};
+
+template <class R>
+constexpr ResultKind result_kind() {
+    using T = std::remove_cvref_t<R>;
+    if constexpr (std::is_void_v<R>) {
+        return {"void", -1, 0};
+    } else if constexpr (is_handle<T>) {
+        return {"handle", T::descriptor, 1};
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return {"bool", -1, 0};
+    } else if constexpr (std::is_floating_point_v<T> && !std::is_reference_v<R>) {
+        return {"float", -1, 0};
+    } else if constexpr (std::is_enum_v<T> && !std::is_reference_v<R>) {
+        return {"int", -1, 0};
+    } else if constexpr (std::is_integral_v<T> && !std::is_reference_v<R>) {
+        return {"int", -1, 0};
+    } else if constexpr (std::is_same_v<T, const char *> || std::is_same_v<T, char *>) {
+        return {"cstring", -1, 0};
+    } else if constexpr (std::is_pointer_v<T>) {
+        return {"pointer", descriptor_of<std::remove_cv_t<std::remove_pointer_t<T>>>, 0};
+    } else if constexpr (std::is_lvalue_reference_v<R>) {
+        return {"reference", descriptor_of<std::remove_cv_t<T>>, 0};
+    } else {
+        return {"value", descriptor_of<T>, 1};
     }
 }
 

@@ -22,6 +22,7 @@
 #include <limits>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 namespace wrap {
 
@@ -159,6 +160,7 @@ inline PyObject *not_implemented(PyObject *r) {
 // the messages of the Python function `Name` with the spellings `Spell...` (argument 1 first).
 template <Text Name, auto F, Policy P, Text... Spell>
 struct Call {
+    static constexpr Policy Policy_ = P;
     static constexpr auto fn = callable<F>();
     using Sig = Signature<std::remove_const_t<decltype(fn)>>;
     using Ret = typename Sig::Ret;
@@ -409,6 +411,80 @@ struct Dispatch {
     }
 };
 
+// ---- rows described as data ---------------------------------------------------------------
+
+// Every row also leaves a record of what it binds, read by the build step that exports the
+// tables (tools/describe.cpp) and by nothing in the module itself.
+struct ParamInfo {
+    const char *spelling;
+    const char *kind;  // Arg<P>::kind
+    int descriptor;    // index into the type table, -1 for numbers, bools and C strings
+    bool is_const;     // of a reference or pointer's target
+};
+
+struct CandidateInfo {
+    const char *prototype;
+    const ParamInfo *params;
+    std::size_t count;
+    ResultKind result;
+};
+
+struct RowInfo {
+    const char *name;
+    const char *owner;   // the class spelling ("osg::Vec3f"), empty for free functions
+    const char *prefix;  // the class's Python prefix ("Vec3f")
+    const char *policy;  // plain, new, inplace, disown
+    bool not_implemented;
+    const char *take_ref;  // none, count, group
+    const CandidateInfo *candidates;
+    std::size_t count;
+};
+
+inline std::vector<const RowInfo *> &described_rows() {
+    static std::vector<const RowInfo *> rows;
+    return rows;
+}
+
+constexpr const char *policy_name(Result r) {
+    return r == Result::New ? "new" : r == Result::InPlace ? "inplace" : r == Result::Disown ? "disown" : "plain";
+}
+constexpr const char *take_ref_name(TakeRef r) { return r == TakeRef::Count ? "count" : r == TakeRef::Group ? "group" : "none"; }
+
+template <class A>
+constexpr bool target_const = std::is_const_v<std::remove_pointer_t<std::remove_reference_t<A>>>;
+
+// One candidate: a Call's parameters with their spellings and its result.
+template <Text Proto, class C>
+struct CandidateOf {
+    template <class L>
+    struct Params;
+    template <class... A>
+    struct Params<List<A...>> {
+        template <std::size_t... I>
+        static constexpr auto make(std::index_sequence<I...>) {
+            return std::array<ParamInfo, sizeof...(A) + 1>{
+                ParamInfo{Static<C::template spelling<I>()>::c_str(), Arg<A>::kind, param_descriptor<A>(), target_const<A>}...,
+                ParamInfo{}};
+        }
+        static constexpr auto value = make(std::index_sequence_for<A...>{});
+    };
+    using P = Params<typename C::Params>;
+    static constexpr ResultKind result =
+        C::Policy_.result == Result::New ? ResultKind{"new", result_kind<typename C::Ret>().descriptor, 1}
+        : C::Policy_.result == Result::InPlace ? ResultKind{"inplace", param_descriptor<typename C::Params::First>(), 1}
+                                               : result_kind<typename C::Ret>();
+    static constexpr CandidateInfo info{Static<Proto>::c_str(), P::value.data(), C::arity, result};
+};
+
+template <Text Name, Text Owner, Text Prefix, Policy P, class... Cands>
+struct Described {
+    static constexpr CandidateInfo candidates[] = {Cands::info...};
+    static constexpr RowInfo info{Static<Name>::c_str(), Static<Owner>::c_str(), Static<Prefix>::c_str(),
+                                  policy_name(P.result), P.not_implemented, take_ref_name(P.take_ref), candidates,
+                                  sizeof...(Cands)};
+    static inline const bool registered = (described_rows().push_back(&info), true);
+};
+
 // ---- short forms: a member's trailing default arguments ----------------------------------
 
 // Several candidates given as one, spliced into the dispatcher in place (see forms<...>).
@@ -466,10 +542,26 @@ struct Forms<K, Member, Invoke, Min, List<Self, A...>, Spell...> {
 
 using Row = PyMethodDef;
 
+template <class W, Text Doc>
+struct Describe;
+template <Text Name, class C, Policy P, Text Doc>
+struct Describe<Single<Name, C, P>, Doc> {
+    template <Text N, Text Owner, Text Prefix>
+    using as = Described<N, Owner, Prefix, P, CandidateOf<Doc, C>>;
+};
+template <Text Name, Policy P, class TryOrder, class... C, Text Doc>
+struct Describe<Dispatch<Name, P, TryOrder, C...>, Doc> {
+    static constexpr Policy candidate_policy{P.result, false, P.take_ref};
+    template <Text N, Text Owner, Text Prefix>
+    using as = Described<N, Owner, Prefix, P, CandidateOf<C::proto, typename C::template bound<Name, candidate_policy>>...>;
+};
+
 // A method-table entry; its docstring starts as the C++ prototypes the row binds, one a
-// line (the module adds OSG's header comments to it when it loads).
-template <class W, Text Name, Text Doc>
+// line (the module adds OSG's header comments to it when it loads). Owner and Prefix name
+// the class whose table the row belongs to, for the row's description.
+template <class W, Text Name, Text Doc, Text Owner = Text(""), Text Prefix = Text("")>
 constexpr Row row() {
+    (void)&Describe<W, Doc>::template as<Name, Owner, Prefix>::registered;
     return {Static<Name>::c_str(), W::wrapper, W::flags, Static<Doc>::c_str()};
 }
 // A dispatcher documents itself: its candidates' prototypes.
@@ -597,12 +689,18 @@ struct Class {
         }
     }
 
+    // A row of this class's table.
+    template <class W, Text N, Text Doc>
+    static constexpr Row crow() { return row<W, N, Doc, Spelling, Prefix>(); }
+    template <class W, Text N>
+    static constexpr Row crow() { return row<W, N, W::doc, Spelling, Prefix>(); }
+
     template <Text Member>
     static constexpr auto qualified = cat(Spelling, Text("::"), Member);
 
     template <Text Suffix, auto F, Policy P, Text... Spell>
     static constexpr Row single() {
-        return row<Single<name<Suffix>, Call<name<Suffix>, F, P, self<F>(), Spell...>, P>, name<Suffix>,
+        return crow<Single<name<Suffix>, Call<name<Suffix>, F, P, self<F>(), Spell...>, P>, name<Suffix>,
                    prototype<qualified<cxx_member<Suffix>()>, const_self<F>, Spell...>()>();
     }
 
@@ -618,13 +716,13 @@ struct Class {
     // A static member: no object argument.
     template <Text Suffix, auto F, Text... Spell>
     static constexpr Row static_fn() {
-        return row<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>,
+        return crow<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>,
                    prototype<qualified<Suffix>, false, Spell...>()>();
     }
     // delete_<Prefix>: argument 1 disowned, then the action.
     template <auto Action>
     static constexpr Row dtor() {
-        return row<Single<delete_name, Call<delete_name, Action, disown, cat(Spelling, Text(" *"))>, disown>,
+        return crow<Single<delete_name, Call<delete_name, Action, disown, cat(Spelling, Text(" *"))>, disown>,
                    delete_name, cat(qualified<cat(Text("~"), unqualified<Spelling>())>, Text("()"))>();
     }
 
@@ -651,7 +749,7 @@ struct Class {
 
     template <Text Suffix, class... C>
     static constexpr Row overload() {
-        return row<DispatchOf<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
+        return crow<DispatchOf<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
     }
     // The forms of a member with trailing defaults, longest first down to Min parameters after
     // the object; Invoke names the member, so the library's own defaults fill in the rest:
@@ -666,15 +764,15 @@ struct Class {
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_op() {
-        return row<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>>();
+        return crow<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>>();
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_inplace() {
-        return row<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>>();
+        return crow<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>>();
     }
     template <Text Suffix, class TryOrder, class... C>
     static constexpr Row overload_ordered() {
-        return row<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>>();
+        return crow<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>>();
     }
 
     // new_<Prefix>: one constructor, or a dispatcher over several.
@@ -682,9 +780,9 @@ struct Class {
     static constexpr Row ctor() {
         constexpr Policy p{Result::New, false, R};
         if constexpr (sizeof...(C) == 1) {
-            return row<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name, prototypes<C...>()>();
+            return crow<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name, prototypes<C...>()>();
         } else {
-            return row<Dispatch<new_name, p, Order<>, C...>, new_name>();
+            return crow<Dispatch<new_name, p, Order<>, C...>, new_name>();
         }
     }
 };
