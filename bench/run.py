@@ -22,6 +22,11 @@ sys.path.insert(0, os.environ.get("OSG_BUILD_DIR") or os.path.join(os.path.dirna
 import _floor  # noqa: E402
 import _osg  # noqa: E402
 
+try:
+    import _nbpeer as nb  # the same calls bound with nanobind, where it was built
+except ImportError:
+    nb = None
+
 repeat = itertools.repeat
 clock = time.perf_counter_ns
 
@@ -45,7 +50,17 @@ class Matrixd:
     __swig_destroy__ = _osg.delete_Matrixd
 
 
+class Matrixf:
+    __swig_destroy__ = _osg.delete_Matrixf
+
+
+class Vec4d:
+    __swig_destroy__ = _osg.delete_Vec4d
+
+
 _osg.Matrixd_swigregister(Matrixd)
+_osg.Matrixf_swigregister(Matrixf)
+_osg.Vec4d_swigregister(Vec4d)
 _osg.Vec3f_swigregister(Vec3f)
 _osg.Vec3d_swigregister(Vec3d)
 _osg.Quat_swigregister(Quat)
@@ -98,9 +113,30 @@ def loop_raise_floor(n, f=_floor.varargs2, a=v, E=TypeError):
             pass
 
 
-loop_length_bare = one_arg(_osg.Vec3f_length, v)
-loop_length_proxy = one_arg(_osg.Vec3f_length, p)
-loop_add = two_args(_osg.Vec3f___add__, v, w)
+def three_args(fn, arg1, arg2, arg3):
+    def loop(n, f=fn, a=arg1, b=arg2, c=arg3):
+        for _ in repeat(None, n):
+            f(a, b, c)
+    return loop
+
+
+def construct_drop(new, *args):
+    """A constructor whose result dies at once: for _osg, new_ then delete_ by hand; for
+    nanobind, the instance's own death."""
+    def loop(n, f=new, a=args):
+        for _ in repeat(None, n):
+            f(*a)
+    return loop
+
+
+def failing(fn, *args):
+    def loop(n, f=fn, a=args, E=TypeError):
+        for _ in repeat(None, n):
+            try:
+                f(*a)
+            except E:
+                pass
+    return loop
 
 
 def loop_new_delete(n, new=_osg.new_Vec3f, delete=_osg.delete_Vec3f):
@@ -108,50 +144,39 @@ def loop_new_delete(n, new=_osg.new_Vec3f, delete=_osg.delete_Vec3f):
         delete(new(1.0, 2.0, 3.0))
 
 
-def loop_new_drop(n, new=_osg.new_Vec3f):
-    for _ in repeat(None, n):
-        new(1.0, 2.0, 3.0)
+v4d, mf = _osg.new_Vec4d(1.0, 2.0, 3.0, 1.0), _osg.new_Matrixf()
+if nb:
+    nv, nw, nm, naxis = nb.Vec3f(1, 2, 3), nb.Vec3f(4, 5, 6), nb.Matrixd(), nb.Vec3d(0, 0, 1)
+    nv4d, nmf = nb.Vec4d(1, 2, 3, 1), nb.Matrixf()
 
-
-def loop_make_rotate(n, f=_osg.Quat_makeRotate, a=q, angle=1.0, axis=axis3d):
-    for _ in repeat(None, n):
-        f(a, angle, axis)
-
-
-def loop_matrix_rotate(n, f=_osg.Matrixd_makeRotate, a=m, angle=1.0, axis=axis3d):
-    for _ in repeat(None, n):
-        f(a, angle, axis)
-
-
-loop_matrix_mul = two_args(_osg.Matrixd___mul__, m, axis3d)
-loop_get_trans = one_arg(_osg.Matrixd_getTrans, m)
-
-
-def loop_overload_error(n, new=_osg.new_Vec3f, E=TypeError):
-    for _ in repeat(None, n):
-        try:
-            new(1, 2)
-        except E:
-            pass
-
-
-# (key, label, loop, floor key, calls per iteration)
+# (key, label, _osg loop, floor key, nanobind loop or None)
 FLOORS = [
     ("meth_o", "_floor.meth_o(v)  [METH_O floor]", loop_meth_o),
     ("varargs", "_floor.varargs2(v, w)  [VARARGS floor]", loop_varargs2),
     ("raise", "_floor.varargs2(v) -> TypeError, caught", loop_raise_floor),
 ]
 CASES = [
-    ("length_bare", "Vec3f_length(v), bare pointer object", loop_length_bare, "meth_o"),
-    ("length_proxy", "Vec3f_length(p), proxy instance", loop_length_proxy, "meth_o"),
-    ("add", "Vec3f___add__(v, w) -> shadow Vec3f, freed", loop_add, "varargs"),
-    ("new_delete", "delete_Vec3f(new_Vec3f(1.0, 2.0, 3.0))", loop_new_delete, "new_delete"),
-    ("new_drop", "new_Vec3f(1.0, 2.0, 3.0), dropped", loop_new_drop, "varargs"),
-    ("make_rotate", "Quat_makeRotate(q, 1.0, axis3d)", loop_make_rotate, "varargs"),
-    ("matrix_mul", "Matrixd___mul__(m, v3d) -> shadow Vec3d, freed", loop_matrix_mul, "varargs"),
-    ("matrix_rotate", "Matrixd_makeRotate(m, 1.0, axis3d), 8 candidates", loop_matrix_rotate, "varargs"),
-    ("get_trans", "Matrixd_getTrans(m) -> shadow Vec3d, freed", loop_get_trans, "meth_o"),
-    ("overload_error", "new_Vec3f(1, 2) -> TypeError, caught", loop_overload_error, "varargs"),
+    ("length_bare", "Vec3f_length(v), bare pointer object", one_arg(_osg.Vec3f_length, v), "meth_o",
+     nb and one_arg(nb.vec3f_length, nv)),
+    ("length_proxy", "Vec3f_length(p), proxy instance", one_arg(_osg.Vec3f_length, p), "meth_o",
+     nb and one_arg(nb.vec3f_length, nv)),
+    ("add", "Vec3f___add__(v, w) -> shadow Vec3f", two_args(_osg.Vec3f___add__, v, w), "varargs",
+     nb and two_args(nb.vec3f_add, nv, nw)),
+    ("get_trans", "Matrixd_getTrans(m) -> shadow Vec3d", one_arg(_osg.Matrixd_getTrans, m), "meth_o",
+     nb and one_arg(nb.matrixd_get_trans, nm)),
+    ("new_delete", "delete_Vec3f(new_Vec3f(1.0, 2.0, 3.0))", loop_new_delete, "new_delete",
+     nb and construct_drop(nb.Vec3f, 1.0, 2.0, 3.0)),
+    ("dispatch2", "Vec3f___mul__(v, w), 2 candidates", two_args(_osg.Vec3f___mul__, v, w), "varargs",
+     nb and two_args(nb.vec3f_mul, nv, nw)),
+    ("dispatch8", "Matrixd_makeRotate(m, 1.0, axis), 8 candidates", three_args(_osg.Matrixd_makeRotate, m, 1.0, axis3d),
+     "varargs", nb and three_args(nb.matrixd_make_rotate, nm, 1.0, naxis)),
+    ("dispatch16", "__mul__(v4d, mf), 16 candidates, the last", two_args(_osg.__mul__, v4d, mf), "varargs",
+     nb and two_args(nb.mul, nv4d, nmf)),
+    ("matrix_mul", "Matrixd___mul__(m, v3d) -> shadow Vec3d", two_args(_osg.Matrixd___mul__, m, axis3d), "varargs", None),
+    ("quat_rotate", "Quat_makeRotate(q, 1.0, axis3d)", three_args(_osg.Quat_makeRotate, q, 1.0, axis3d), "varargs",
+     None),
+    ("overload_error", "new_Vec3f(1, 2) -> TypeError, caught", failing(_osg.new_Vec3f, 1, 2), "varargs",
+     nb and failing(nb.Vec3f, 1, 2)),
 ]
 GOALS = {"length_bare": 1.5, "length_proxy": 2.5}
 
@@ -182,63 +207,57 @@ def main():
     args = ap.parse_args()
     repeats, calls = args.repeats, args.calls
 
-    loops = [("empty", loop_empty)] + [(k, f) for k, _, f in FLOORS] + [(k, f) for k, _, f, _ in CASES]
+    loops = [("empty", loop_empty)] + [(k, f) for k, _, f in FLOORS] + [(k, f) for k, _, f, _, _ in CASES]
+    loops += [("nb_" + k, f) for k, _, _, _, f in CASES if f]
     started = clock()
     samples = measure(loops, repeats, calls)
     elapsed = (clock() - started) / 1e9
 
     overhead = statistics.median(samples["empty"]) / calls
 
-    def ns(key):  # median ns per iteration, empty loop subtracted; also the spread
-        per = [s / calls - overhead for s in samples[key]]
-        return statistics.median(per), min(per), max(per)
+    def ns(key):  # median ns per iteration, empty-loop cost subtracted
+        return statistics.median(s / calls - overhead for s in samples[key])
 
     med = {key: ns(key) for key, _ in loops if key != "empty"}
-    floor = {key: med[key][0] for key, _, _ in FLOORS}
+    floor = {key: med[key] for key, _, _ in FLOORS}
     # A constructor and a destructor: one VARARGS call and one METH_O call.
     floor["new_delete"] = floor["varargs"] + floor["meth_o"]
-    floor_name = {"meth_o": "METH_O", "varargs": "VARARGS", "new_delete": "VARARGS+METH_O"}
+    floor_name = {"meth_o": "METH_O", "varargs": "VARARGS", "new_delete": "VARARGS+O"}
 
     print(f"_osg call benchmark  (Python {sys.version.split()[0]}, {_osg.__file__})")
-    print(f"{repeats} repeats x {calls:,} calls per case, interleaved; gc disabled while timing;")
-    print(f"ns per call = median over repeats, empty-loop cost ({overhead:.1f} ns/iteration) subtracted;")
-    print("min..max is the spread of the repeats.  Vec3f, Vec3d, Quat and Matrixd are registered with")
-    print("__swig_destroy__ (owned results free their C++ object, by-value results are shadow instances).")
+    print(f"{repeats} repeats x {calls:,} calls per case, interleaved; gc disabled while timing; ns per call is the")
+    print(f"median over repeats with the empty loop ({overhead:.1f} ns/iteration) subtracted.  Vec3f, Vec3d, Quat and")
+    print("Matrixd are registered with __swig_destroy__, so by-value results are shadow instances and owned")
+    print("results free their C++ object.  nb: the same call bound with nanobind (bench/nbpeer.cpp)" +
+          ("." if nb else "; not built here."))
     print()
-
-    w_label = max(len(label) for _, label, *_ in FLOORS + CASES)
-    head = f"{'case':<{w_label}}  {'ns/call':>8}  {'min..max':>13}  {'floor':>14}  {'ratio':>6}  {'goal':>6}"
-    rule = "-" * len(head)
-
-    def line(label, key, floor_key=None):
-        m, lo, hi = med[key]
-        spread = f"{lo:.1f}..{hi:.1f}"
-        text = f"{label:<{w_label}}  {m:8.1f}  {spread:>13}"
-        if floor_key:
-            ratio = m / floor[floor_key]
-            goal = GOALS.get(key)
-            verdict = ""
-            if goal:
-                verdict = f"{'<=' if ratio <= goal else '>'}{goal:g}x"
-                verdict = f"{verdict:>6}  {'met' if ratio <= goal else 'MISSED'}"
-            text += f"  {floor_name[floor_key]:>14}  {ratio:5.2f}x  {verdict}"
-        print(text.rstrip())
-
+    w = max(len(label) for _, label, *_ in FLOORS + CASES)
+    head = (f"{'case':<{w}}  {'ns/call':>7}  {'floor':>9}  {'x floor':>7}  {'nb ns':>6}  {'x nb':>5}  "
+            f"{'above floor: _osg vs nb':>24}")
     print(head)
-    print(rule)
+    print("-" * len(head))
     for key, label, _ in FLOORS:
-        line(label, key)
-    print(rule)
-    for key, label, _, floor_key in CASES:
-        line(label, key, floor_key)
-    print(rule)
-    print(f"overload failure vs the raising floor: {med['overload_error'][0] / floor['raise']:.2f}x "
-          f"({med['overload_error'][0]:.1f} vs {floor['raise']:.1f} ns)")
+        print(f"{label:<{w}}  {med[key]:7.1f}")
+    print("-" * len(head))
+    for key, label, _, fkey, nbloop in CASES:
+        line = f"{label:<{w}}  {med[key]:7.1f}  {floor_name[fkey]:>9}  {med[key] / floor[fkey]:6.2f}x"
+        if nbloop:
+            ours, theirs = med[key] - floor[fkey], med["nb_" + key] - floor[fkey]
+            verdict = "<=" if ours <= theirs else ">"
+            line += f"  {med['nb_' + key]:6.1f}  {med[key] / med['nb_' + key]:4.2f}x  {ours:8.1f} {verdict} {theirs:6.1f} ns"
+        goal = GOALS.get(key)
+        if goal:
+            ratio = med[key] / floor[fkey]
+            line += f"   goal <={goal:g}x floor: {'met' if ratio <= goal else 'MISSED'}"
+        print(line)
+    print("-" * len(head))
+    print(f"overload failure vs the raising floor: {med['overload_error'] / floor['raise']:.2f}x "
+          f"({med['overload_error']:.1f} vs {floor['raise']:.1f} ns)")
     print()
-    print("Goals: Vec3f_length on a bare pointer object within 1.5x the METH_O floor;")
-    print("       Vec3f_length through a proxy instance within 2.5x the METH_O floor.")
-    print("Floors: VARARGS is varargs2(a, b) (size-checked tuple, returns None); new+delete is")
-    print("        compared with one VARARGS plus one METH_O floor call.")
+    print("Floors: METH_O is meth_o(v); VARARGS is varargs2(a, b) (size-checked tuple, returns None);")
+    print("        a constructor and its destroy are one VARARGS plus one METH_O floor call.")
+    print("Goals: a call's cost above its floor at or below nanobind's for the same call; by-value results")
+    print("       within 1.5x nanobind's.")
     print(f"Total time {elapsed:.1f} s.")
 
 

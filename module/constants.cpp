@@ -1,7 +1,7 @@
 // The integer constants of the wrapped enumerations, in installation order. Names of value 1
 // spelled OSG_* are the headers' include-guard markers, exported as the family always has.
 #include "module/constants.h"
-#include "module/osg_headers.h"
+#include "runtime/osg_headers.h"
 
 // clang-format off
 const IntConstant int_constants_before_cvar[] = {

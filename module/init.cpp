@@ -1,8 +1,8 @@
 // The module entry PyInit__osg.
 #include "module/constants.h"
 #include "module/methods.h"
-#include "module/osg_headers.h"
-#include "module/types.h"
+#include "runtime/osg_headers.h"
+#include "runtime/type_table.h"
 
 #include <pythread.h>
 

@@ -100,24 +100,14 @@ PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_t
         PyErr_Format(PyExc_TypeError, "cannot create instances of the class registered for '%s'",
                      SWIG_TypePrettyName(((SwigPyObject *)swig_this)->ty));
     } else {
-        PyObject *empty_args = PyTuple_New(0);
-        if (empty_args) {
-            PyObject *empty_kwargs = PyDict_New();
-            if (empty_kwargs) {
-                auto *klass = (PyTypeObject *)data->newargs;
-                inst = klass->tp_new(klass, empty_args, empty_kwargs);
-                Py_DECREF(empty_kwargs);
-                if (inst) {
-                    if (PyObject_SetAttr(inst, SWIG_This(), swig_this) == -1) {
-                        Py_DECREF(inst);
-                        inst = nullptr;
-                    } else {
-                        PyType_Modified(Py_TYPE(inst));
-                    }
-                }
-            }
-            Py_DECREF(empty_args);
-        }
+        // Keyword arguments are none: a null mapping says so without making a dictionary.
+        auto *klass = (PyTypeObject *)data->newargs;
+        static PyObject *no_args = PyTuple_New(0);
+        inst = no_args ? klass->tp_new(klass, no_args, nullptr) : nullptr;
+        // Setting `this` changes the instance, never its class, so the class's attribute
+        // cache stays valid; invalidating it here would cost every later method lookup on the
+        // class, and after about a thousand results CPython stops caching its attributes.
+        if (inst && PyObject_SetAttr(inst, SWIG_This(), swig_this) == -1) Py_CLEAR(inst);
     }
     return inst;
 }

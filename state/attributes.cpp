@@ -101,7 +101,7 @@ using AC = Attribute<CM, "osg::ColorMask", "ColorMask", true, false, false>;
 using KC = AC::KA;
 
 using CP = osg::ClipPlane;
-using AP = Attribute<CP, "osg::ClipPlane", "ClipPlane", false, true, true>;
+using AP = Attribute<CP, "osg::ClipPlane", "ClipPlane", true, true, true>;
 using KP = AP::KA;
 
 using VP = osg::Viewport;

@@ -9,7 +9,8 @@ N a Matrixf, c a CopyOp, o a DummyObject, r a Referenced, h a notify handler, d 
 element pointers of a Matrixd and a Matrixf, L and K lists of Vec3f and Vec3d points, B a
 bounding sphere, X a bounding box; for the render state A a Fog, and from the sibling module
 e a GLenum (GL_FOG), T a texture mode (GL_TEXTURE_2D), u an osg::Uniform::Type, z a
-std::string, a an osg::State, I an image and m a mode usage."""
+std::string, a an osg::State, I an image and m a mode usage; for the camera Y a Camera, k a
+GLbitfield (colour and depth bits), U a texture, y a processor affinity and V a node visitor."""
 from collections import namedtuple
 
 from engine_support import SIZE, VECTORS
@@ -118,7 +119,10 @@ def base():
              ["Sn", "S"], False),
         Disp("new_DummyObject", D,
              protos("osg::DummyObject", D, [], ["osg::DummyObject const &", "osg::CopyOp const &"]), ["", "vc"], False),
-        m(D, "clone", "sc", True), m(D, "isSameKindAs", "so", True)]
+        m(D, "clone", "sc", True), m(D, "isSameKindAs", "so", True),
+        free("resizeGLObjectBuffers", "oi", "osg::Object *"),
+        Disp("releaseGLObjects", None, ["osg::releaseGLObjects(osg::Object *,osg::State *)",
+                                        "osg::releaseGLObjects(osg::Object *)"], ["on", "o", "nn"], False)]
     rows += [m(R, f, "s", True) for f in ["getThreadSafeRefUnref", "getRefMutex", "unref_nodelete", "referenceCount",
                                            "getObserverSet", "getOrCreateObserverSet"]]
     rows += [m(O, f, "s", True) for f in ["cloneType", "libraryName", "className", "getCompoundClassName", "getName",
@@ -306,7 +310,7 @@ def attributes():
     rows += [pair(SA, f) for f in ["asStateAttribute", "asTexture", "getUpdateCallback", "getEventCallback"]]
     rows += [m(SA, f, "s", True) for f in ["cloneType", "libraryName", "className", "getType", "getMember",
                                             "getTypeMemberPair", "isTextureAttribute", "getParents", "getNumParents"]]
-    own = {"Fog": (True, False, True), "ColorMask": (True, False, False), "ClipPlane": (False, True, True),
+    own = {"Fog": (True, False, True), "ColorMask": (True, False, False), "ClipPlane": (True, True, True),
            "Viewport": (True, False, False)}
     for C, (typ, member, modes) in own.items():
         O, cref = f"osg::{C}", f"osg::{C} const &"
@@ -350,10 +354,69 @@ def texture():
                                                  "getTextureHeight", "getTextureDepth", "getNumMipmapLevels"]]
 
 
+def camera():
+    C, O, SO = "Camera", "osg::Camera", "CameraRenderOrderSortOp"
+    bc, ui, mask, impl = ("osg::Camera::BufferComponent", "unsigned int", "osg::Camera::ImplicitBufferAttachmentMask",
+                          "osg::Camera::RenderTargetImplementation")
+    v3, v3f, cref = "osg::Vec3d &", "osg::Vec3f &", "osg::Camera const &"
+
+    def d(member, *shapes, goods, const=False):
+        return Disp(f"{C}_{member}", C, protos(O, member, *shapes, const=const), goods, False)
+
+    def const_first(member):
+        return Disp(f"{C}_{member}", C, protos(O, member, [], const=True) + protos(O, member, []), ["S"], False)
+    texture = [[bc, "osg::Texture *"] + [ui, ui, "bool", ui, ui][:k] for k in range(5, -1, -1)]
+    image = [[bc, "osg::Image *"] + [ui, ui][:k] for k in (2, 1, 0)]
+    rows = [
+        Disp(f"new_{C}", C, protos(O, C, [], [cref, "osg::CopyOp const &"], [cref]), ["", "vc", "v"], False),
+        m(C, "clone", "sc", True), m(C, "isSameKindAs", "so", True), m(C, "accept", "SV"),
+        d("setColorMask", ["osg::ColorMask *"], ["bool"] * 4, goods=["Sn", "Sbbbb"]), const_first("getColorMask"),
+        d("setViewport", ["osg::Viewport *"], ["int"] * 4, goods=["Sn", "Siiii"]), const_first("getViewport"),
+        d("getViewMatrixAsLookAt", [v3] * 3 + ["double"], [v3] * 3, [v3f] * 3 + ["float"], [v3f] * 3, const=True,
+          goods=["sGGGx", "sGGG", "sFFFx", "sFFF"]),
+        d("setRenderOrder", ["osg::Camera::RenderOrder", "int"], ["osg::Camera::RenderOrder"], goods=["Sii", "Si"]),
+        d("setRenderTargetImplementation", [impl], [impl, impl], goods=["Si", "Sib"]),  # the fallback rates lower
+        d("attach", [bc, "GLenum"], *texture, *image, goods=["Sie", "SiUiibii", "SiUi", "SiU", "SiIii", "SiI"]),
+        d("resize", ["int"] * 3, ["int"] * 2, goods=["Siii", "Sii"]),
+        d("setImplicitBufferAttachmentMask", [mask] * 2, [mask], [], goods=["Sii", "Si", "S"]),
+        d("releaseGLObjects", ["osg::State *"], [], const=True, goods=["Sn", "S"]),
+        m(C, "computeLocalToWorldMatrix", "sMn", True), m(C, "computeWorldToLocalMatrix", "sMn", True),
+        free(f"new_{SO}", "", cls=SO), free(f"delete_{SO}", "D", f"osg::{SO} *", SO), m(SO, "__call__", "sYY", True)]
+    rows += [d(f, ["osg::Matrixf const &"], ["osg::Matrixd const &"], goods=["SN", "SM"])
+             for f in ["setProjectionMatrix", "setViewMatrix"]]
+    rows += [d(f"getImplicitBufferAttachment{k}Mask", [], ["bool"], const=True, goods=["s", "sb"])
+             for k in ["Render", "Resolve"]]
+    rows += [pair(C, f) for f in ["asCamera", "getView", "getStats", "getDisplaySettings", "getProjectionMatrix",
+                                  "getViewMatrix", "getBufferAttachmentMap", "getProcessorAffinity", "getRenderer",
+                                  "getRenderingCache"] + [f"get{k}DrawCallback" for k in ["Initial", "Pre", "Post", "Final"]]]
+    rows += [m(C, f"{op}{k}DrawCallback", "Sn") for k in ["Initial", "Pre", "Post", "Final"] for op in ["set", "add", "remove"]]
+    rows += [m(C, f, c) for f, c in [
+        ("setView", "Sn"), ("setStats", "Sn"), ("setAllowEventFocus", "Sb"), ("setDisplaySettings", "Sn"),
+        ("setClearMask", "Sk"), ("setClearColor", "SE"), ("setClearAccum", "SE"), ("setClearDepth", "Sx"),
+        ("setClearStencil", "Si"), ("setTransformOrder", "Si"), ("setProjectionResizePolicy", "Si"),
+        ("setProjectionMatrixAsOrtho", "S" + "x" * 6), ("setProjectionMatrixAsOrtho2D", "Sxxxx"),
+        ("setProjectionMatrixAsFrustum", "S" + "x" * 6), ("setProjectionMatrixAsPerspective", "Sxxxx"),
+        ("setViewMatrixAsLookAt", "SGGG"), ("setDrawBuffer", "Se"), ("setReadBuffer", "Se"), ("detach", "Si"),
+        ("dirtyAttachmentMap", "S"), ("setAttachmentMapModifiedCount", "Si"), ("resizeAttachments", "Sii"),
+        ("setImplicitBufferAttachmentRenderMask", "Si"), ("setImplicitBufferAttachmentResolveMask", "Si"),
+        ("setProcessorAffinity", "Sy"), ("createCameraThread", "S"), ("setRenderer", "Sn"),
+        ("setRenderingCache", "Sn"), ("resizeGLObjectBuffers", "Si")]]
+    return rows + [m(C, f, c, True) for f, c in [
+        ("cloneType", "s"), ("className", "s"), ("libraryName", "s"), ("getAllowEventFocus", "s"), ("getClearMask", "s"),
+        ("getClearColor", "s"), ("getClearAccum", "s"), ("getClearDepth", "s"), ("getClearStencil", "s"),
+        ("getTransformOrder", "s"), ("getProjectionResizePolicy", "s"), ("getProjectionMatrixAsOrtho", "s" + "d" * 6),
+        ("getProjectionMatrixAsFrustum", "s" + "d" * 6), ("getProjectionMatrixAsPerspective", "sdddd"),
+        ("getInverseViewMatrix", "s"), ("getRenderOrder", "s"), ("getRenderOrderNum", "s"),
+        ("isRenderToTextureCamera", "s"), ("getRenderTargetImplementation", "s"), ("getRenderTargetFallback", "s"),
+        ("getDrawBuffer", "s"), ("getReadBuffer", "s"), ("getAttachmentMapModifiedCount", "s"),
+        ("getDataChangeMutex", "s")]]
+
+
 STATE = state_set() + attributes() + texture()
 
 ALL = [r for V in VECTORS for r in vector(V)] + quat() + base() + notify() + matrix("Matrixd") + matrix("Matrixf") + \
     ref_matrix("RefMatrixd") + ref_matrix("RefMatrixf") + plane() + operators() + STATE
+ALL += camera()
 ROWS = [r for r in ALL if isinstance(r, Row)]
 DISPATCHERS = [d for d in ALL if isinstance(d, Disp)]
 BY_NAME = {r.name: r for r in ALL}

@@ -36,6 +36,10 @@ _DESTROY.update({f"osg::{c} *": _osg.delete_Referenced for c in ["StateSet", "Fo
 _DESTROY.update({"osg::Texture2D *": lambda p: (p.disown(), _osgpeer.free_texture(p)),
                  "std::pair< enum osg::StateAttribute::Type,unsigned int > *":
                      lambda p: (p.disown(), _osgpeer.free_type_member_pair(p))})
+# Camera: no destroy function of its own; the GLenum and GLbitfield results are heap copies.
+_DESTROY.update({"osg::Camera *": lambda p: (p.disown(), _osgpeer.free_camera(p)),
+                 "osg::CameraRenderOrderSortOp *": _osg.delete_CameraRenderOrderSortOp,
+                 **{f"{h} *": lambda p, h=h: _osgpeer.free_handle(p, f"_p_{h}") for h in ["GLenum", "GLbitfield"]}})
 
 
 def type_name(proxy):

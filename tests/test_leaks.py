@@ -38,6 +38,11 @@ NO_GOOD_CALL |= {f"StateSet_set{c}List" for c in ["Mode", "Attribute", "TextureM
                                                   "Define"]}
 CLONES |= {f"{c}_{f}" for c in ["StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport"]
            for f in ["clone", "cloneType"]}
+# Camera values.
+NAMED.update({"Y": "Camera", "V": "SmoothingVisitor"})
+VALUES.update({"k": lambda: _osgpeer.make_glbitfield(0x4100), "U": lambda: _osgpeer.make_texture(4, 4),
+               "y": _osgpeer.affinity})
+CLONES |= {"Camera_clone", "Camera_cloneType"}
 
 
 class Env:
@@ -66,6 +71,7 @@ class Env:
 
 def settle(name, result, args):
     """Gives back what a good call handed out, so that only a leak of the wrapper remains."""
+    result = getattr(result, "this", result)  # a shadow instance: GLenum has the sibling's class
     if name in CLONES:
         free_borrowed(result)
     elif isinstance(result, SwigPyObject) and result.own():

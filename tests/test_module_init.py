@@ -1,4 +1,5 @@
 import json
+import os
 import sys
 import types
 
@@ -116,3 +117,45 @@ def test_each_swigregister_binds_its_class_descriptor(run_py):
         print(json.dumps({{n: _osgpeer.clientdata_class(descriptor(n))[0].__name__ for n in names}}))
         """)
     assert json.loads(out) == {n: n for n in REGISTERED}
+
+
+def test_includes_run_one_way():
+    """runtime, then the engine, then the families, then the entry: no layer includes one above it."""
+    import glob
+    import re
+    root = os.path.join(os.path.dirname(__file__), os.pardir)
+    layer = {"runtime": 0, "platform": 0, "wrap": 1, "math": 2, "scene": 2, "state": 2, "module": 3}
+    for path in glob.glob(os.path.join(root, "*", "*.[ch]*")):
+        here = os.path.basename(os.path.dirname(path))
+        if here in layer:
+            for target in re.findall(r'#include "(\w+)/', open(path).read()):
+                assert layer[target] <= layer[here] and (layer[target] < 2 or target == here), (path, target)
+
+
+def test_method_table_rows_order_and_calling_conventions():
+    import ctypes
+
+    class MethodDef(ctypes.Structure):
+        _fields_ = [("name", ctypes.c_char_p), ("meth", ctypes.c_void_p), ("flags", ctypes.c_int), ("doc", ctypes.c_char_p)]
+
+    def flags(f):  # the PyMethodDef behind a built-in function: after the object head
+        return ctypes.cast(ctypes.c_void_p.from_address(id(f) + 16), ctypes.POINTER(MethodDef)).contents.flags
+
+    expected = []
+    for line in open(os.path.join(os.path.dirname(__file__), "method_table.txt")):
+        if not line.startswith("#"):
+            cls, rows = line.split(":", 1)
+            for row in rows.split():
+                name, _, arity = row.partition("/")
+                full = name + cls if name in ("new_", "delete_") else name if cls == "-" else f"{cls}_{name}"
+                expected.append((full, {"": 1, "1": 8, "0": 4}[arity]))
+    got = [(n, flags(f)) for n, f in vars(_osg).items() if type(f) is type(_osg.notify)]
+    assert got == expected
+    assert (len(got), [sum(f == k for _, f in got) for k in (1, 8, 4)]) == (1053, [715, 328, 10])
+    registered = [n[:-len("_swigregister")] for n, _ in got if n.endswith("_swigregister")]
+    assert registered == ["Referenced", "CopyOp", "Vec2f", "Vec3f", "Vec4f", "Vec2d", "Vec3d", "Vec4d", "Quat", "Matrixd",
+                          "Matrixf", "RefMatrixd", "RefMatrixf", "NotifyHandler", "StandardNotifyHandler", "Object",
+                          "DummyObject", "Node", "Texture2D", "StateSet", "StateAttribute", "ColorMask", "Viewport",
+                          "Group", "Camera", "CameraRenderOrderSortOp", "Switch", "SmoothingVisitor", "Transform",
+                          "Geode", "MatrixTransform", "AutoTransform", "PositionAttitudeTransform", "Plane",
+                          "ClipPlane", "ClipNode", "Fog"]

@@ -176,6 +176,19 @@ def _child_shadow_instances():
     assert type(_osg.Vec3f__v_get(a)) is SwigPyObject  # element pointers have no class
 
 
+def _child_results_keep_the_class_cache():
+    import companion as c
+    a, b = c.Vec3f(1, 2, 3), c.Vec3f(1, 1, 1)
+    for _ in range(2000):
+        s = a + b
+    s.length()  # a lookup through the class, after two thousand results
+    print(type(s).__name__, _osgpeer.type_version(c.Vec3f) != 0)
+
+
+def test_by_value_results_leave_the_class_attribute_cache_working():
+    assert run_child("test_ownership", "_child_results_keep_the_class_cache") == "Vec3f True\n"
+
+
 def test_registered_classes_make_shadow_instances():
     assert run_child("test_ownership", "_child_shadow_instances") == ""
 

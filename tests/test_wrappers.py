@@ -2,14 +2,16 @@
 per-argument messages, scalar, boolean, string and null-reference conversion."""
 import pytest
 
-from engine_rows import BY_NAME, ROWS
+from engine_rows import BY_NAME, DISPATCHERS, ROWS
 from engine_support import VECTORS, _osg, mk, raises  # noqa: F401  (mk is a fixture)
 
 CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS,
            "Matrixd", "Matrixf", "RefMatrixd", "RefMatrixf", "Plane"}
 CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
+CLASSES |= {"Camera", "CameraRenderOrderSortOp"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
-          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide"}
+          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide", "resizeGLObjectBuffers",
+          "releaseGLObjects"}
 
 
 def in_scope(name):
@@ -133,3 +135,20 @@ def test_result_kinds(mk):
     assert [type(r) for r in results] == [str, bool, int, float, type(None)]
     assert (_osg.Vec4f_asABGR(v), _osg.Vec4f_asRGBA(v)) == (0xFF7F003F, 0x3F007FFF)  # unsigned, so positive
     assert _osg.Vec4d_asABGR(mk.Vec4d(1, 0.5, 0, 0.25)) == 0xFF7F003F
+
+
+def test_docstrings_lead_with_prototypes_and_carry_osg_comments():
+    functions = [getattr(_osg, n) for n in dir(_osg) if type(getattr(_osg, n)) is type(_osg.notify)]
+    assert len(functions) > 900 and all(f.__doc__ for f in functions)
+    for d in DISPATCHERS:  # the overload message's prototypes, one a line
+        if d.protos:
+            assert getattr(_osg, d.name).__doc__.startswith("\n".join(d.protos)), d.name
+    for name, first, comment in [
+            ("Vec3f_length", "osg::Vec3f::length() const", "Length of the vector = sqrt( vec . vec )"),
+            ("Matrixf___mul__", "osg::Matrixf::operator *(osg::Vec3f const &) const", "Multiply by scalar."),
+            ("__mul__", "osg::operator *(osg::Vec3f const &,osg::Vec4f const &)",
+             "Compute the dot product of a (Vec3,1.0) and a Vec4f."),
+            ("Group_addChild", "osg::Group::addChild(osg::Node *)", "Add Node to Group."),
+            ("delete_Vec3f", "osg::Vec3f::~Vec3f()", None)]:
+        doc = getattr(_osg, name).__doc__
+        assert doc.split("\n")[0] == first and (comment is None or f"\n{comment}" in doc), name

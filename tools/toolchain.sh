@@ -12,7 +12,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 shared=$(cd "$here/../shared" 2>/dev/null && pwd || true)
 ROOT=${OSG_TOOLCHAIN_ROOT:-/var/cache/osg-binding-toolchain/forky}
 SUITE=forky
-PACKAGES="python3-dev python3-pytest g++ cmake make libopenscenegraph-dev binutils gdb valgrind libc6-dbg"
+PACKAGES="python3-dev python3-pytest g++ cmake make libopenscenegraph-dev binutils gdb valgrind libc6-dbg nanobind-dev linux-perf mypy python3-scikit-build-core python3-venv python3-pip"
 
 step_start=0
 step() { step_name=$1; step_start=$(date +%s); printf 'toolchain: %s ...\n' "$step_name" >&2; }

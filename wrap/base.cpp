@@ -146,5 +146,12 @@ void add_dummy_object_rows(Table &t) {
         KD::fn<"className", &D::className>(),
         register_row<ty::p_osg__DummyObject>("DummyObject_swigregister"),
         init_row("DummyObject_swiginit"),
+        // The free forms the object header declares after its classes; a null object is skipped by OSG.
+        fn<"resizeGLObjectBuffers", pick<void (*)(osg::Object *, unsigned int)>(osg::resizeGLObjectBuffers), "osg::Object *",
+           "unsigned int">(),
+        overload<"releaseGLObjects",
+                 fc<"osg::releaseGLObjects", pick<void (*)(osg::Object *, osg::State *)>(osg::releaseGLObjects),
+                    "osg::Object *", "osg::State *">,
+                 fc<"osg::releaseGLObjects", [](osg::Object *object) { osg::releaseGLObjects(object); }, "osg::Object *">>(),
     });
 }

@@ -10,6 +10,10 @@
 
 namespace wrap {
 
+// A converter's probe is a dispatcher's type test that keeps what it found: 0 when the
+// object does not fit, 1 when it fits and the stored value is the conversion, 2 when it
+// fits but only the full conversion can say what is wrong with it (a null reference).
+//
 // Every converter takes the argument's message texts as a type M: M::plain is
 // "in method '...', argument N of type '...'", M::null_ref the same prefixed by
 // "invalid null reference ", M::spelling the declared type.
@@ -30,6 +34,7 @@ template <Wrapped T>
 struct Arg<T *> {
     using Store = T *;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "pointer";
     template <class M>
     static bool convert(PyObject *o, Store &out, int flags) {
         void *p = nullptr;
@@ -60,9 +65,17 @@ struct Arg<T *> {
         out = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) {
-        void *p;
-        return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_ConvertPtr(o, &p, descriptor<T>()) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return 1;
+    }
+    static int probe_self(PyObject *o, Store &out, SwigPyObject *&matched) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrMatch(o, &p, descriptor<T>(), 0, &matched) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return 1;
     }
     static T *get(Store s) { return s; }
 };
@@ -71,6 +84,7 @@ template <Wrapped T>
 struct Arg<T &> {
     using Store = T *;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "reference";
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         void *p = nullptr;
@@ -79,7 +93,13 @@ struct Arg<T &> {
         out = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) { return SWIG_CheckPtr(o, descriptor<T>()) == SWIG_OK; }
+    // A proxy holding null passes the test; only its conversion can report it.
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrAndOwn(o, &p, descriptor<T>(), SWIG_POINTER_NO_NULL) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return p ? 1 : 2;
+    }
     static T &get(Store s) { return *s; }
 };
 
@@ -89,6 +109,7 @@ template <class T>
 struct Scalar {
     using Store = T;
     static constexpr Rank rank = Rank::Other;
+    static constexpr const char *kind = "scalar";
     static int as(PyObject *o, T *v) {
         if constexpr (std::is_same_v<T, double>) {
             return SWIG_AsVal_double(o, v);
@@ -121,7 +142,7 @@ struct Scalar {
         if (res < 0) return fail(SWIG_Python_ErrorType(res), M::plain.v);
         return true;
     }
-    static bool test(PyObject *o) { return as(o, nullptr) >= 0; }
+    static int probe(PyObject *o, Store &out) { return as(o, &out) >= 0; }
     static T get(Store s) { return s; }
 };
 
@@ -138,6 +159,7 @@ template <>
 struct Arg<bool> {
     using Store = bool;
     static constexpr Rank rank = Rank::Other;
+    static constexpr const char *kind = "bool";
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         int r = PyBool_Check(o) ? PyObject_IsTrue(o) : -1;
@@ -145,7 +167,10 @@ struct Arg<bool> {
         out = r != 0;
         return true;
     }
-    static bool test(PyObject *o) { return PyBool_Check(o); }
+    static int probe(PyObject *o, Store &out) {
+        out = o == Py_True;
+        return PyBool_Check(o);
+    }
     static bool get(Store s) { return s; }
 };
 
@@ -179,11 +204,12 @@ template <>
 struct Arg<const char *> {
     using Store = const char *;
     static constexpr Rank rank = Rank::Other;
+    static constexpr const char *kind = "cstring";
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         return as_cstring(o, &out) || fail(PyExc_TypeError, M::plain.v);
     }
-    static bool test(PyObject *o) { return as_cstring(o, nullptr); }
+    static int probe(PyObject *o, Store &out) { return as_cstring(o, &out); }
     static const char *get(Store s) { return s; }
 };
 
@@ -198,6 +224,8 @@ template <class T, std::size_t N>
 struct Arg<ArrayIn<T, N>> {
     using Store = ArrayIn<T, N>;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "array";
+    static constexpr int descriptor_index = descriptor_of<T>;
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         static constexpr auto null_var = cat(Text("invalid null reference in variable '_v' of type '"), M::spelling, Text("'"));
@@ -207,9 +235,11 @@ struct Arg<ArrayIn<T, N>> {
         out.data = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) {
-        void *p;
-        return SWIG_ConvertPtr(o, &p, descriptor<T>()) == SWIG_OK;
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_ConvertPtr(o, &p, descriptor<T>()) != SWIG_OK) return 0;
+        out.data = static_cast<T *>(p);
+        return p ? 1 : 2;
     }
     static Store get(Store s) { return s; }
 };
@@ -234,6 +264,8 @@ template <int D, class T>
 struct Arg<Handle<D, T>> {
     using Store = T *;
     static constexpr Rank rank = Rank::Class;
+    static constexpr const char *kind = "handle";
+    static constexpr int descriptor_index = D;
     template <class M>
     static bool convert(PyObject *o, Store &out, int) {
         void *p = nullptr;
@@ -242,7 +274,12 @@ struct Arg<Handle<D, T>> {
         out = static_cast<T *>(p);
         return true;
     }
-    static bool test(PyObject *o) { return SWIG_CheckPtr(o, swig_types[D]) == SWIG_OK; }
+    static int probe(PyObject *o, Store &out) {
+        void *p = nullptr;
+        if (SWIG_Python_ConvertPtrAndOwn(o, &p, swig_types[D], SWIG_POINTER_NO_NULL) != SWIG_OK) return 0;
+        out = static_cast<T *>(p);
+        return p ? 1 : 2;
+    }
     static T get(Store s) { return *s; }
 };
 
@@ -285,6 +322,57 @@ PyObject *to_python(R &&r) {
     } else {
         static_assert(Wrapped<T>, "by-value result of a type without a descriptor");
         return SWIG_Python_NewPointerObj(new T(static_cast<R &&>(r)), descriptor<T>(), SWIG_POINTER_OWN);
+    }
+}
+
+// ---- kinds as data, for the description of the tables (engine.h) ----------------------
+
+// The descriptor a parameter of type A crosses with, or -1 for numbers, bools and C strings.
+template <class A>
+constexpr int param_descriptor() {
+    using P = std::remove_cv_t<A>;
+    if constexpr (requires { Arg<P>::descriptor_index; }) {
+        return Arg<P>::descriptor_index;
+    } else if constexpr (std::is_same_v<P, const char *>) {
+        return -1;
+    } else if constexpr (std::is_pointer_v<P> || std::is_reference_v<P>) {
+        return descriptor_of<std::remove_cv_t<std::remove_pointer_t<std::remove_reference_t<P>>>>;
+    } else {
+        return -1;
+    }
+}
+
+// What to_python makes of a result of type R: its kind and, for pointer objects, descriptor
+// and ownership (1 = an owned heap copy).
+struct ResultKind {
+    const char *kind;
+    int descriptor;
+    int own;
+};
+
+template <class R>
+constexpr ResultKind result_kind() {
+    using T = std::remove_cvref_t<R>;
+    if constexpr (std::is_void_v<R>) {
+        return {"void", -1, 0};
+    } else if constexpr (is_handle<T>) {
+        return {"handle", T::descriptor, 1};
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return {"bool", -1, 0};
+    } else if constexpr (std::is_floating_point_v<T> && !std::is_reference_v<R>) {
+        return {"float", -1, 0};
+    } else if constexpr (std::is_enum_v<T> && !std::is_reference_v<R>) {
+        return {"int", -1, 0};
+    } else if constexpr (std::is_integral_v<T> && !std::is_reference_v<R>) {
+        return {"int", -1, 0};
+    } else if constexpr (std::is_same_v<T, const char *> || std::is_same_v<T, char *>) {
+        return {"cstring", -1, 0};
+    } else if constexpr (std::is_pointer_v<T>) {
+        return {"pointer", descriptor_of<std::remove_cv_t<std::remove_pointer_t<T>>>, 0};
+    } else if constexpr (std::is_lvalue_reference_v<R>) {
+        return {"reference", descriptor_of<std::remove_cv_t<T>>, 0};
+    } else {
+        return {"value", descriptor_of<T>, 1};
     }
 }
 

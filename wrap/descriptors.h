@@ -2,8 +2,8 @@
 // passed as a pointer proxy (by pointer, by reference, or as an owned heap copy when
 // returned by value); every other type must be a scalar, bool or C string.
 #pragma once
-#include "module/osg_headers.h"
-#include "module/types.h"
+#include "runtime/osg_headers.h"
+#include "runtime/type_table.h"
 
 #include <string>
 #include <vector>
@@ -109,6 +109,15 @@ template <> inline constexpr int descriptor_of<std::vector<osg::Matrixd>> = ty::
 template <> inline constexpr int descriptor_of<std::vector<std::string>> = ty::p_std__vectorT_std__string_t;
 template <> inline constexpr int descriptor_of<std::vector<bool>> = ty::p_std__vectorT_bool_t;
 template <> inline constexpr int descriptor_of<std::vector<osg::ref_ptr<osg::ClipPlane>>> = ty::p_std__vectorT_ref_ptrT_osg__ClipPlane_t_t;
+// Camera: its render targets, callbacks and the objects it refers to.
+template <> inline constexpr int descriptor_of<osg::View> = ty::p_osg__View;
+template <> inline constexpr int descriptor_of<osg::Stats> = ty::p_osg__Stats;
+template <> inline constexpr int descriptor_of<osg::DisplaySettings> = ty::p_osg__DisplaySettings;
+template <> inline constexpr int descriptor_of<osg::GraphicsOperation> = ty::p_osg__GraphicsOperation;
+template <> inline constexpr int descriptor_of<osg::Camera::DrawCallback> = ty::p_osg__Camera__DrawCallback;
+template <> inline constexpr int descriptor_of<osg::Camera::BufferAttachmentMap> = ty::p_std__mapT_osg__Camera__BufferComponent_osg__Camera__Attachment_t;
+template <> inline constexpr int descriptor_of<osg::CameraRenderOrderSortOp> = ty::p_osg__CameraRenderOrderSortOp;
+template <> inline constexpr int descriptor_of<OpenThreads::Affinity> = ty::p_OpenThreads__Affinity;
 // clang-format on
 
 template <class T>

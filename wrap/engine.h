@@ -18,9 +18,11 @@
 
 #include <cstring>
 #include <functional>
+#include <string_view>
 #include <limits>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 namespace wrap {
 
@@ -160,6 +162,7 @@ inline PyObject *not_implemented(PyObject *r) {
 // the messages of the Python function `Name` with the spellings `Spell...` (argument 1 first).
 template <Text Name, auto F, Policy P, Text... Spell>
 struct Call {
+    static constexpr Policy Policy_ = P;
     static constexpr auto fn = callable<F>();
     using Sig = Signature<std::remove_const_t<decltype(fn)>>;
     using Ret = typename Sig::Ret;
@@ -176,12 +179,37 @@ struct Call {
     struct Run;
     template <class... A>
     struct Run<List<A...>> {
+        using Stores = std::tuple<typename Arg<A>::Store...>;
+
         template <std::size_t... I>
         static PyObject *call(PyObject *const *argv, std::index_sequence<I...>) {
-            std::tuple<typename Arg<A>::Store...> v{};
+            Stores v{};
             [[maybe_unused]] SwigPyObject *self = nullptr;
             // && folds left to right and stops at the first failure.
             if (!(convert<I, A>(argv[I], std::get<I>(v), self) && ...)) return nullptr;
+            return invoke(v, self, std::index_sequence<I...>{});
+        }
+
+        // A dispatcher's test of every argument, keeping the values it found (0, 1 or 2 as a
+        // converter's probe answers).
+        template <std::size_t... I>
+        static int probe(PyObject *const *argv, Stores &v, SwigPyObject *&self, std::index_sequence<I...>) {
+            int worst = 1;
+            [[maybe_unused]] auto one = [&]<std::size_t J, class A1>(PyObject *o, typename Arg<A1>::Store &out) {
+                int k;
+                if constexpr (J == 0 && P.result == Result::InPlace) {
+                    k = Arg<A1>::probe_self(o, out, self);
+                } else {
+                    k = Arg<A1>::probe(o, out);
+                }
+                worst = std::max(worst, k);
+                return k != 0;
+            };
+            return (one.template operator()<I, A>(argv[I], std::get<I>(v)) && ...) ? worst : 0;
+        }
+
+        template <std::size_t... I>
+        static PyObject *invoke(Stores &v, [[maybe_unused]] SwigPyObject *self, std::index_sequence<I...>) {
             if constexpr (P.result == Result::InPlace) {
                 // Only now that every argument converted does the incoming proxy give up
                 // ownership, and the result owns exactly when it did: a borrowed proxy (of a
@@ -194,7 +222,7 @@ struct Call {
                 if (owned) SwigPyObject_setown(self, 0);
                 std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
                 return SWIG_Python_NewPointerObj(address(std::get<0>(v)), descriptor_for<0>(), owned);
-            } else if constexpr (std::is_void_v<Ret> && P.result != Result::InPlace) {
+            } else if constexpr (std::is_void_v<Ret>) {
                 std::invoke(fn, Arg<A>::get(std::get<I>(v))...);
                 Py_RETURN_NONE;
             } else if constexpr (P.result == Result::New) {
@@ -227,17 +255,18 @@ struct Call {
             }
         }
 
-        static bool test(PyObject *const *argv) {
-            return [&]<std::size_t... I>(std::index_sequence<I...>) {
-                return (Arg<A>::test(argv[I]) && ...);
-            }(std::index_sequence_for<A...>{});
-        }
     };
 
+    using Stores = typename Run<Params>::Stores;
     static PyObject *call(PyObject *const *argv) {
         return Run<Params>::call(argv, std::make_index_sequence<arity>{});
     }
-    static bool test(PyObject *const *argv) { return Run<Params>::test(argv); }
+    static int probe(PyObject *const *argv, Stores &v, SwigPyObject *&self) {
+        return Run<Params>::probe(argv, v, self, std::make_index_sequence<arity>{});
+    }
+    static PyObject *invoke(Stores &v, SwigPyObject *self) {
+        return Run<Params>::invoke(v, self, std::make_index_sequence<arity>{});
+    }
 };
 
 // ---- calling conventions ---------------------------------------------------------------
@@ -350,6 +379,7 @@ struct Dispatch {
     static constexpr auto message =
         cat(Text("Wrong number or type of arguments for overloaded function '"), Name,
             Text("'.\n  Possible C/C++ prototypes are:\n"), cat(Text("    "), C::proto, Text("\n"))...);
+    static constexpr auto doc = join<"\n">(C::proto...);
     static constexpr int flags = METH_VARARGS;
     static constexpr Policy candidate_policy{P.result, false, P.take_ref};
     static constexpr auto order = try_order<C...>(TryOrder{});
@@ -357,8 +387,13 @@ struct Dispatch {
     template <std::size_t K>
     static bool try_one(PyObject *const *argv, Py_ssize_t argc, PyObject *&result) {
         using B = typename std::tuple_element_t<order[K], std::tuple<C...>>::template bound<Name, candidate_policy>;
-        if ((Py_ssize_t)B::arity != argc || !B::test(argv)) return false;
-        result = B::call(argv);
+        if ((Py_ssize_t)B::arity != argc) return false;
+        typename B::Stores v{};
+        SwigPyObject *self = nullptr;
+        int fit = B::probe(argv, v, self);
+        if (!fit) return false;
+        // What the test kept is the conversion; a converter with more to say converts anew.
+        result = fit == 1 ? B::invoke(v, self) : B::call(argv);
         return true;
     }
 
@@ -383,13 +418,188 @@ struct Dispatch {
     }
 };
 
+// ---- rows described as data ---------------------------------------------------------------
+
+// Every row also leaves a record of what it binds, read by the build step that exports the
+// tables (tools/describe.cpp) and by nothing in the module itself.
+struct ParamInfo {
+    const char *spelling;
+    const char *kind;  // Arg<P>::kind
+    int descriptor;    // index into the type table, -1 for numbers, bools and C strings
+    bool is_const;     // of a reference or pointer's target
+};
+
+struct CandidateInfo {
+    const char *prototype;
+    const ParamInfo *params;
+    std::size_t count;
+    ResultKind result;
+};
+
+struct RowInfo {
+    const char *name;
+    const char *owner;   // the class spelling ("osg::Vec3f"), empty for free functions
+    const char *prefix;  // the class's Python prefix ("Vec3f")
+    const char *policy;  // plain, new, inplace, disown
+    bool not_implemented;
+    const char *take_ref;  // none, count, group
+    const CandidateInfo *candidates;
+    std::size_t count;
+};
+
+inline std::vector<const RowInfo *> &described_rows() {
+    static std::vector<const RowInfo *> rows;
+    return rows;
+}
+
+constexpr const char *policy_name(Result r) {
+    return r == Result::New ? "new" : r == Result::InPlace ? "inplace" : r == Result::Disown ? "disown" : "plain";
+}
+constexpr const char *take_ref_name(TakeRef r) { return r == TakeRef::Count ? "count" : r == TakeRef::Group ? "group" : "none"; }
+
+template <class A>
+constexpr bool target_const = std::is_const_v<std::remove_pointer_t<std::remove_reference_t<A>>>;
+
+// One candidate: a Call's parameters with their spellings and its result.
+template <Text Proto, class C>
+struct CandidateOf {
+    template <class L>
+    struct Params;
+    template <class... A>
+    struct Params<List<A...>> {
+        template <std::size_t... I>
+        static constexpr auto make(std::index_sequence<I...>) {
+            return std::array<ParamInfo, sizeof...(A) + 1>{
+                ParamInfo{Static<C::template spelling<I>()>::c_str(), Arg<A>::kind, param_descriptor<A>(), target_const<A>}...,
+                ParamInfo{}};
+        }
+        static constexpr auto value = make(std::index_sequence_for<A...>{});
+    };
+    using P = Params<typename C::Params>;
+    static constexpr ResultKind result =
+        C::Policy_.result == Result::New ? ResultKind{"new", result_kind<typename C::Ret>().descriptor, 1}
+        : C::Policy_.result == Result::InPlace ? ResultKind{"inplace", param_descriptor<typename C::Params::First>(), 1}
+                                               : result_kind<typename C::Ret>();
+    static constexpr CandidateInfo info{Static<Proto>::c_str(), P::value.data(), C::arity, result};
+};
+
+template <Text Name, Text Owner, Text Prefix, Policy P, class... Cands>
+struct Described {
+    static constexpr CandidateInfo candidates[] = {Cands::info...};
+    static constexpr RowInfo info{Static<Name>::c_str(), Static<Owner>::c_str(), Static<Prefix>::c_str(),
+                                  policy_name(P.result), P.not_implemented, take_ref_name(P.take_ref), candidates,
+                                  sizeof...(Cands)};
+    static inline const bool registered = (described_rows().push_back(&info), true);
+};
+
+// ---- short forms: a member's trailing default arguments ----------------------------------
+
+// Several candidates given as one, spliced into the dispatcher in place (see forms<...>).
+template <class... C>
+struct Cands {};
+
+template <class Done, class... C>
+struct Flat {
+    using type = Done;
+};
+template <class... D, class C, class... Rest>
+struct Flat<Cands<D...>, C, Rest...> : Flat<Cands<D..., C>, Rest...> {};
+template <class... D, class... E, class... Rest>
+struct Flat<Cands<D...>, Cands<E...>, Rest...> : Flat<Cands<D..., E...>, Rest...> {};
+
+template <Text Name, Policy P, class TryOrder, class L>
+struct Spliced;
+template <Text Name, Policy P, class TryOrder, class... C>
+struct Spliced<Name, P, TryOrder, Cands<C...>> {
+    using type = Dispatch<Name, P, TryOrder, C...>;
+};
+template <Text Name, Policy P, class TryOrder, class... C>
+using DispatchOf = typename Spliced<Name, P, TryOrder, typename Flat<Cands<>, C...>::type>::type;
+
+template <std::size_t I, Text... S>
+inline constexpr auto nth_text = std::get<I>(std::make_tuple(S...));
+
+// The form of a member that passes its first sizeof...(I) parameters: Invoke, a captureless
+// generic lambda naming the member, called through a function pointer of exactly those types.
+template <class K, Text Member, auto Invoke, class Self, class Args, class Index, Text... Spell>
+struct Form;
+template <class K, Text Member, auto Invoke, class Self, class... A, std::size_t... I, Text... Spell>
+struct Form<K, Member, Invoke, Self, std::tuple<A...>, std::index_sequence<I...>, Spell...> {
+    template <std::size_t J>
+    using P = std::tuple_element_t<J, std::tuple<A...>>;
+    using R = decltype(Invoke(std::declval<Self>(), std::declval<P<I>>()...));
+    static constexpr auto fn = static_cast<R (*)(Self, P<I>...)>(Invoke);
+    using type = typename K::template m<Member, fn, nth_text<I, Spell...>...>;
+};
+
+// All forms of a member whose parameters after the first Min have defaults, longest first.
+template <class K, Text Member, auto Invoke, std::size_t Min, class Params, Text... Spell>
+struct Forms;
+template <class K, Text Member, auto Invoke, std::size_t Min, class Self, class... A, Text... Spell>
+struct Forms<K, Member, Invoke, Min, List<Self, A...>, Spell...> {
+    static_assert(sizeof...(A) == sizeof...(Spell) && Min <= sizeof...(A), "one spelling per parameter");
+    template <std::size_t... J>
+    static auto make(std::index_sequence<J...>)
+        -> Cands<typename Form<K, Member, Invoke, Self, std::tuple<A...>, std::make_index_sequence<sizeof...(A) - J>,
+                               Spell...>::type...>;
+    using type = decltype(make(std::make_index_sequence<sizeof...(A) - Min + 1>{}));
+};
+
 // ---- rows -----------------------------------------------------------------------------
 
 using Row = PyMethodDef;
 
+template <class W, Text Doc>
+struct Describe;
+template <Text Name, class C, Policy P, Text Doc>
+struct Describe<Single<Name, C, P>, Doc> {
+    template <Text N, Text Owner, Text Prefix>
+    using as = Described<N, Owner, Prefix, P, CandidateOf<Doc, C>>;
+};
+template <Text Name, Policy P, class TryOrder, class... C, Text Doc>
+struct Describe<Dispatch<Name, P, TryOrder, C...>, Doc> {
+    static constexpr Policy candidate_policy{P.result, false, P.take_ref};
+    template <Text N, Text Owner, Text Prefix>
+    using as = Described<N, Owner, Prefix, P, CandidateOf<C::proto, typename C::template bound<Name, candidate_policy>>...>;
+};
+
+// A method-table entry; its docstring starts as the C++ prototypes the row binds, one a
+// line (the module adds OSG's header comments to it when it loads). Owner and Prefix name
+// the class whose table the row belongs to, for the row's description.
+template <class W, Text Name, Text Doc, Text Owner = Text(""), Text Prefix = Text("")>
+constexpr Row row() {
+    (void)&Describe<W, Doc>::template as<Name, Owner, Prefix>::registered;
+    return {Static<Name>::c_str(), W::wrapper, W::flags, Static<Doc>::c_str()};
+}
+// A dispatcher documents itself: its candidates' prototypes.
 template <class W, Text Name>
 constexpr Row row() {
-    return {Static<Name>::c_str(), W::wrapper, W::flags, nullptr};
+    return row<W, Name, W::doc>();
+}
+
+template <class... C>
+constexpr auto prototypes() {
+    return join<"\n">(C::proto...);
+}
+
+// The C++ member a Python name binds: the operators by their C++ spelling.
+template <Text Suffix>
+constexpr auto cxx_member() {
+    constexpr std::string_view s(Suffix.v);
+    if constexpr (s == "__eq__") return Text("operator ==");
+    else if constexpr (s == "__ne__") return Text("operator !=");
+    else if constexpr (s == "__lt__") return Text("operator <");
+    else if constexpr (s == "__add__") return Text("operator +");
+    else if constexpr (s == "__sub__" || s == "__neg__") return Text("operator -");
+    else if constexpr (s == "__mul__") return Text("operator *");
+    else if constexpr (s == "__truediv__") return Text("operator /");
+    else if constexpr (s == "__xor__") return Text("operator ^");
+    else if constexpr (s == "__iadd__") return Text("operator +=");
+    else if constexpr (s == "__isub__") return Text("operator -=");
+    else if constexpr (s == "__imul__") return Text("operator *=");
+    else if constexpr (s == "__itruediv__") return Text("operator /=");
+    else if constexpr (s == "__call__") return Text("operator ()");
+    else return Suffix;
 }
 
 // The last "::"-separated component of a qualified name: "osg::Vec3f" -> "Vec3f".
@@ -423,12 +633,13 @@ T *construct(A... a) {
 // Rows of free functions and static members, named in full.
 template <Text Name, auto F, Text... Spell>
 constexpr Row fn() {
-    return row<Single<Name, Call<Name, F, plain, Spell...>, plain>, Name>();
+    return row<Single<Name, Call<Name, F, plain, Spell...>, plain>, Name,
+               prototype<cat(Text("osg::"), Name), false, Spell...>()>();
 }
 
 template <Text Name, class... C>
 constexpr Row overload() {
-    return row<Dispatch<Name, plain, Order<>, C...>, Name>();
+    return row<DispatchOf<Name, plain, Order<>, C...>, Name>();
 }
 
 // A candidate free function, e.g. fc<"osg::notify", F, "osg::NotifySeverity const">.
@@ -485,9 +696,19 @@ struct Class {
         }
     }
 
+    // A row of this class's table.
+    template <class W, Text N, Text Doc>
+    static constexpr Row crow() { return row<W, N, Doc, Spelling, Prefix>(); }
+    template <class W, Text N>
+    static constexpr Row crow() { return row<W, N, W::doc, Spelling, Prefix>(); }
+
+    template <Text Member>
+    static constexpr auto qualified = cat(Spelling, Text("::"), Member);
+
     template <Text Suffix, auto F, Policy P, Text... Spell>
     static constexpr Row single() {
-        return row<Single<name<Suffix>, Call<name<Suffix>, F, P, self<F>(), Spell...>, P>, name<Suffix>>();
+        return crow<Single<name<Suffix>, Call<name<Suffix>, F, P, self<F>(), Spell...>, P>, name<Suffix>,
+                   prototype<qualified<cxx_member<Suffix>()>, const_self<F>, Spell...>()>();
     }
 
     // One member (or a callable whose argument 1 is the object).
@@ -502,12 +723,14 @@ struct Class {
     // A static member: no object argument.
     template <Text Suffix, auto F, Text... Spell>
     static constexpr Row static_fn() {
-        return row<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>>();
+        return crow<Single<name<Suffix>, Call<name<Suffix>, F, plain, Spell...>, plain>, name<Suffix>,
+                   prototype<qualified<Suffix>, false, Spell...>()>();
     }
     // delete_<Prefix>: argument 1 disowned, then the action.
     template <auto Action, Policy P = disown>
     static constexpr Row dtor() {
-        return row<Single<delete_name, Call<delete_name, Action, P, cat(Spelling, Text(" *"))>, P>, delete_name>();
+        return crow<Single<delete_name, Call<delete_name, Action, P, cat(Spelling, Text(" *"))>, P>,
+                   delete_name, cat(qualified<cat(Text("~"), unqualified<Spelling>())>, Text("()"))>();
     }
 
     static void unref_object(T *p) { p->unref(); }
@@ -534,8 +757,13 @@ struct Class {
 
     template <Text Suffix, class... C>
     static constexpr Row overload() {
-        return row<Dispatch<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
+        return crow<DispatchOf<name<Suffix>, plain, Order<>, C...>, name<Suffix>>();
     }
+    // The forms of a member with trailing defaults, longest first down to Min parameters after
+    // the object; Invoke names the member, so the library's own defaults fill in the rest:
+    //   forms<"resize", [](C *c, auto... a) { c->resize(a...); }, 2, List<C *, int, int, int>, "int", "int", "int">
+    template <Text Member, auto Invoke, std::size_t Min, class Params, Text... Spell>
+    using forms = typename Forms<Class, Member, Invoke, Min, Params, Spell...>::type;
     // A const/non-const accessor pair; the non-const member, listed first, is always taken.
     // Spell... spells the arguments both members share.
     template <Text Member, auto NonConst, auto Const, Text... Spell>
@@ -544,15 +772,15 @@ struct Class {
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_op() {
-        return row<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>>();
+        return crow<Dispatch<name<Suffix>, binary_op, Order<>, C...>, name<Suffix>>();
     }
     template <Text Suffix, class... C>
     static constexpr Row overload_inplace() {
-        return row<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>>();
+        return crow<Dispatch<name<Suffix>, in_place, Order<>, C...>, name<Suffix>>();
     }
     template <Text Suffix, class TryOrder, class... C>
     static constexpr Row overload_ordered() {
-        return row<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>>();
+        return crow<Dispatch<name<Suffix>, plain, TryOrder, C...>, name<Suffix>>();
     }
 
     // new_<Prefix>: one constructor, or a dispatcher over several.
@@ -560,9 +788,9 @@ struct Class {
     static constexpr Row ctor() {
         constexpr Policy p{Result::New, false, R};
         if constexpr (sizeof...(C) == 1) {
-            return row<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name>();
+            return crow<Single<new_name, typename C::template bound<new_name, p>..., p>, new_name, prototypes<C...>()>();
         } else {
-            return row<Dispatch<new_name, p, Order<>, C...>, new_name>();
+            return crow<Dispatch<new_name, p, Order<>, C...>, new_name>();
         }
     }
 };

@@ -1,7 +1,7 @@
 // Method-table rows for the class hooks the companion proxy layer calls:
 // <Class>_swigregister(cls) and <Class>_swiginit(self, this).
 #pragma once
-#include "module/types.h"
+#include "runtime/type_table.h"
 
 namespace wrap {
 
@@ -14,9 +14,15 @@ inline PyObject *swiginit(PyObject *, PyObject *args) { return SWIG_Python_Init(
 
 template <int T>
 constexpr PyMethodDef register_row(const char *name) {
-    return {name, swigregister<T>, METH_O, nullptr};
+    return {name, swigregister<T>, METH_O,
+            "swigregister(cls)\n\nRegisters cls as the Python proxy class of this C++ class: results of the class "
+            "come back as instances of cls, and owned ones are destroyed by cls.__swig_destroy__."};
 }
 
-constexpr PyMethodDef init_row(const char *name) { return {name, swiginit, METH_VARARGS, nullptr}; }
+constexpr PyMethodDef init_row(const char *name) {
+    return {name, swiginit, METH_VARARGS,
+            "swiginit(self, this)\n\nAttaches the pointer object `this` (from new_<Class>) to the proxy instance "
+            "self, as its `this` attribute or appended to the one it has."};
+}
 
 }  // namespace wrap

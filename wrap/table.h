@@ -42,3 +42,5 @@ void add_color_mask_rows(wrap::Table &t);
 void add_viewport_rows(wrap::Table &t);
 void add_clip_plane_rows(wrap::Table &t);
 void add_fog_rows(wrap::Table &t);
+void add_camera_rows(wrap::Table &t);
+void add_camera_render_order_sort_op_rows(wrap::Table &t);

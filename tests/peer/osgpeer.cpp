@@ -17,6 +17,7 @@
 #include <osg/State>
 #include <osg/StateSet>
 #include <osg/Texture2D>
+#include <osg/Camera>
 #include <cstring>
 #include <deque>
 #include <set>
@@ -364,6 +365,12 @@ PyObject *container_items(PyObject *, PyObject *arg) {
 }
 
 // ---- runtime introspection ------------------------------------------------------------
+
+// The version tag of a class's attribute cache: 0 once CPython stopped caching for it.
+PyObject *type_version(PyObject *, PyObject *arg) {
+    if (!PyType_Check(arg)) return PyErr_Format(PyExc_TypeError, "a class");
+    return PyLong_FromUnsignedLong(((PyTypeObject *)arg)->tp_version_tag);
+}
 
 PyObject *ring_tables(PyObject *, PyObject *) {
     PyObject *out = PyList_New(0);
@@ -786,6 +793,70 @@ PyObject *release(PyObject *, PyObject *args) {
     Py_RETURN_NONE;
 }
 
+// camera values
+// A camera made at reference count 0 converts to nothing that could release it.
+PyObject *free_camera(PyObject *, PyObject *arg) {
+    auto *camera = static_cast<osg::Camera *>(pointer(arg, "_p_osg__Camera"));
+    if (!camera) return nullptr;
+    camera->ref();
+    camera->unref();
+    Py_RETURN_NONE;
+}
+
+// free_handle(owned GLenum or GLbitfield result, descriptor name): the heap copy _osg hands out.
+PyObject *free_handle(PyObject *, PyObject *args) {
+    PyObject *obj;
+    const char *name;
+    if (!PyArg_ParseTuple(args, "Os", &obj, &name)) return nullptr;
+    swig_type_info *t = find_or_raise(name);
+    void *p = nullptr;
+    if (!t || SWIG_Python_ConvertPtrAndOwn(obj, &p, t, SWIG_POINTER_DISOWN) != SWIG_OK)
+        return PyErr_Format(PyExc_TypeError, "not a %s pointer", name);
+    delete static_cast<unsigned int *>(p);
+    Py_RETURN_NONE;
+}
+
+// make_texture(width, height): a 2-D texture the peer keeps, seen as an osg::Texture.
+PyObject *make_texture(PyObject *, PyObject *args) {
+    static std::vector<osg::ref_ptr<osg::Texture2D>> textures;
+    int w, h;
+    if (!PyArg_ParseTuple(args, "ii", &w, &h)) return nullptr;
+    swig_type_info *t = find_or_raise("_p_osg__Texture");
+    if (!t) return nullptr;
+    textures.push_back(new osg::Texture2D);
+    textures.back()->setTextureSize(w, h);
+    return SWIG_Python_NewPointerObj(static_cast<osg::Texture *>(textures.back().get()), t, 0);
+}
+
+PyObject *affinity(PyObject *, PyObject *) {
+    static OpenThreads::Affinity kept(3);
+    swig_type_info *t = find_or_raise("_p_OpenThreads__Affinity");
+    return t ? SWIG_Python_NewPointerObj(&kept, t, 0) : nullptr;
+}
+
+// affinity_cpus(affinity): the processors it names, sorted.
+PyObject *affinity_cpus(PyObject *, PyObject *arg) {
+    auto *a = static_cast<OpenThreads::Affinity *>(pointer(arg, "_p_OpenThreads__Affinity"));
+    if (!a) return nullptr;
+    return each(a->activeCPUs, [](unsigned int cpu) { return PyLong_FromUnsignedLong(cpu); });
+}
+
+// attachments(map): [(component, internal format, texture or None, image or None, level, face,
+// mipmap generation, samples, colour samples, width, height)], objects by address.
+PyObject *attachments(PyObject *, PyObject *arg) {
+    auto *m = static_cast<osg::Camera::BufferAttachmentMap *>(
+        pointer(arg, "_p_std__mapT_osg__Camera__BufferComponent_osg__Camera__Attachment_t"));
+    if (!m) return nullptr;
+    auto object = [](const void *p) { return p ? address(p) : Py_NewRef(Py_None); };
+    return each(*m, [&](auto &e) {
+        const osg::Camera::Attachment &a = e.second;
+        return Py_BuildValue("(ikNNkkOkkii)", (int)e.first, (unsigned long)a._internalFormat, object(a._texture.get()),
+                             object(a._image.get()), (unsigned long)a._level, (unsigned long)a._face,
+                             a._mipMapGeneration ? Py_True : Py_False, (unsigned long)a._multisampleSamples,
+                             (unsigned long)a._multisampleColorSamples, a.width(), a.height());
+    });
+}
+
 PyMethodDef methods[] = {
     {"string_ptr", string_ptr, METH_VARARGS, nullptr},
     {"read_string", read_string, METH_O, nullptr},
@@ -795,6 +866,7 @@ PyMethodDef methods[] = {
     {"glenum_ptr", glenum_ptr, METH_NOARGS, nullptr},
     {"points", points, METH_VARARGS, nullptr},
     {"ring_tables", ring_tables, METH_NOARGS, nullptr},
+    {"type_version", type_version, METH_O, nullptr},
     {"own_module", own_module, METH_NOARGS, nullptr},
     {"cast_list", cast_list, METH_O, nullptr},
     {"type_query", type_query, METH_O, nullptr},
@@ -847,6 +919,13 @@ PyMethodDef methods[] = {
     {"free_type_member_pair", free_type_member_pair, METH_O, nullptr},
     {"set_state_set", set_state_set, METH_VARARGS, nullptr},
     {"container_items", container_items, METH_O, nullptr},
+    // camera values
+    {"free_camera", free_camera, METH_O, nullptr},
+    {"free_handle", free_handle, METH_VARARGS, nullptr},
+    {"make_texture", make_texture, METH_VARARGS, nullptr},
+    {"affinity", affinity, METH_NOARGS, nullptr},
+    {"affinity_cpus", affinity_cpus, METH_O, nullptr},
+    {"attachments", attachments, METH_O, nullptr},
     {nullptr, nullptr, 0, nullptr},
 };
 

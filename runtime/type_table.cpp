@@ -1,8 +1,8 @@
 // The module's 130 type descriptors, sorted by mangled name, and its cast graph.
 // The graph is deliberately narrower than the class hierarchy: Camera, Texture2D and the
 // reference-counted matrices have no edge to their bases.
-#include "module/types.h"
-#include "module/osg_headers.h"
+#include "runtime/type_table.h"
+#include "runtime/osg_headers.h"
 
 namespace {
 

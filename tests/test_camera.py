@@ -1,0 +1,219 @@
+"""Camera: a camera configured end to end and read back, attachments without a graphics
+context, resizing, render order, ownership of its results, and the refusals that keep a camera
+apart from nodes."""
+import ctypes
+import functools
+import math
+
+import pytest
+
+from engine_support import SwigPyObject, _osg, _osgpeer, at, free_borrowed, mk, raises, type_name, values  # noqa: F401
+from test_dispatch import overload_message
+
+GL_COLOR_BUFFER_BIT, GL_DEPTH_BUFFER_BIT, GL_STENCIL_BUFFER_BIT = 0x4000, 0x0100, 0x0400
+GL_BACK, GL_FRONT, GL_DEPTH_COMPONENT24 = 0x0405, 0x0404, 0x81A6
+
+
+def doubles(n):
+    buffer = (ctypes.c_double * n)()
+    return buffer, [_osgpeer.new_pointer(ctypes.addressof(buffer) + 8 * i, "_p_double", 0) for i in range(n)]
+
+
+def point(matrix, p):
+    """p transformed by a matrix of OSG's row-vector layout."""
+    m = _osgpeer.read_matrix(matrix)
+    return [sum(p[i] * m[4 * i + j] for i in range(3)) + m[12 + j] for j in range(3)]
+
+
+def count(camera):
+    """The reference count, read through the Referenced at the start of the object."""
+    return _osg.Referenced_referenceCount(_osgpeer.new_pointer(int(camera), "_p_osg__Referenced", 0))
+
+
+def test_view_and_projection(mk):
+    cam = mk.Camera()
+    view = _osg.Camera_getViewMatrix(cam)  # the camera's own matrix, taken before it changes
+    _osg.Camera_setViewMatrixAsLookAt(cam, mk.Vec3d(0, -10, 0), mk.Vec3d(0, 0, 0), mk.Vec3d(0, 0, 1))
+    # Looking along +y with z up: eye x is world x, eye y is world z, the target 10 ahead on -z.
+    assert [c for p in [(0, 0, 0), (1, 0, 0), (0, 0, 1)] for c in point(view, p)] == \
+        pytest.approx([0, 0, -10, 1, 0, -10, 0, 1, -10])
+    eye, center, up = mk.Vec3d(), mk.Vec3d(), mk.Vec3d()
+    _osg.Camera_getViewMatrixAsLookAt(cam, eye, center, up)  # look distance 1
+    assert [c for v in (eye, center, up) for c in values(v, "Vec3d")] == pytest.approx([0, -10, 0, 0, -9, 0, 0, 0, 1])
+    eye_f, center_f, up_f = mk.Vec3f(), mk.Vec3f(), mk.Vec3f()
+    _osg.Camera_getViewMatrixAsLookAt(cam, eye_f, center_f, up_f, 10.0)
+    assert values(center_f, "Vec3f") == pytest.approx([0, 0, 0], abs=1e-6)
+    inverse, again = mk(_osg.Camera_getInverseViewMatrix(cam)), mk(_osg.Camera_getInverseViewMatrix(cam))
+    assert inverse.own() and again.own() and int(inverse) != int(again) and not view.own()
+    assert point(inverse, (0, 0, -10)) == pytest.approx([0, 0, 0])
+    _osg.Camera_setViewMatrix(cam, mk.Matrixf(*[1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 1, 2, 3, 1]))
+    assert point(view, (0, 0, 0)) == [1, 2, 3]
+    fovy, aspect, near, far = 45.0, 4 / 3, 1.0, 100.0
+    _osg.Camera_setProjectionMatrixAsPerspective(cam, fovy, aspect, near, far)
+    out, slots = doubles(6)
+    assert _osg.Camera_getProjectionMatrixAsPerspective(cam, *slots[:4]) is True
+    assert list(out[:4]) == pytest.approx([fovy, aspect, near, far])
+    top = near * math.tan(math.radians(fovy) / 2)
+    assert _osg.Camera_getProjectionMatrixAsFrustum(cam, *slots) is True
+    assert list(out) == pytest.approx([-top * aspect, top * aspect, -top, top, near, far])
+    assert _osg.Camera_getProjectionMatrixAsOrtho(cam, *slots) is False
+    _osg.Camera_setProjectionMatrixAsOrtho(cam, -1, 2, -3, 4, 5, 6)
+    assert _osg.Camera_getProjectionMatrixAsOrtho(cam, *slots) is True and list(out) == pytest.approx([-1, 2, -3, 4, 5, 6])
+    _osg.Camera_setProjectionMatrixAsOrtho2D(cam, 0, 8, 0, 6)
+    assert _osg.Camera_getProjectionMatrixAsOrtho(cam, *slots) and list(out) == pytest.approx([0, 8, 0, 6, -1, 1])
+    raises(TypeError, "invalid null reference in method 'Camera_getProjectionMatrixAsFrustum', argument 4 of type "
+           "'double &'", _osg.Camera_getProjectionMatrixAsFrustum, cam, *slots[:2], None, *slots[3:])
+
+
+def test_clear_values_viewport_and_masks(mk):
+    cam = mk.Camera()
+    mask = mk(_osg.Camera_getClearMask(cam))
+    assert type(mask) is SwigPyObject and mask.own() and type_name(mask) == "GLbitfield *"
+    assert _osgpeer.glbitfield_value(mask) == GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT
+    _osg.Camera_setClearMask(cam, _osgpeer.make_glbitfield(GL_COLOR_BUFFER_BIT | GL_STENCIL_BUFFER_BIT))
+    fresh = mk(_osg.Camera_getClearMask(cam))
+    assert _osgpeer.glbitfield_value(fresh) == 0x4400 and _osgpeer.glbitfield_value(mask) == 0x4100  # a copy each time
+    _osg.Camera_setDrawBuffer(cam, _osgpeer.make_glenum(GL_BACK))
+    _osg.Camera_setReadBuffer(cam, _osgpeer.make_glenum(GL_FRONT))
+    # GLenum has the sibling's class registered, so the owned copy comes back as its instance.
+    draw, read = _osg.Camera_getDrawBuffer(cam), _osg.Camera_getReadBuffer(cam)
+    assert type(draw) is _osgpeer.PeerHandle and draw.this.own() and type_name(draw.this) == "GLenum *"
+    assert (_osgpeer.glenum_value(draw), _osgpeer.glenum_value(read)) == (GL_BACK, GL_FRONT)
+    mk(draw.this), mk(read.this)
+    color = _osg.Camera_getClearColor(cam)
+    _osg.Camera_setClearColor(cam, mk.Vec4f(0.25, 0.5, 0.75, 1))
+    _osg.Camera_setClearAccum(cam, mk.Vec4f(1, 2, 3, 4))
+    assert not color.own() and values(color, "Vec4f") == [0.25, 0.5, 0.75, 1]
+    assert values(_osg.Camera_getClearAccum(cam), "Vec4f") == [1, 2, 3, 4]
+    _osg.Camera_setClearDepth(cam, 0.5)
+    _osg.Camera_setClearStencil(cam, -3)
+    assert (_osg.Camera_getClearDepth(cam), _osg.Camera_getClearStencil(cam)) == (0.5, -3)
+    assert _osg.Camera_getViewport(cam) is None and _osg.Camera_getColorMask(cam) is None
+    _osg.Camera_setViewport(cam, 10, 20, 400, 300)
+    _osg.Camera_setColorMask(cam, True, False, True, False)
+    vp, cm = _osg.Camera_getViewport(cam), _osg.Camera_getColorMask(cam)
+    assert (type_name(vp), type_name(cm), vp.own(), cm.own()) == ("osg::Viewport *", "osg::ColorMask *", False, False)
+    assert [at(getattr(_osg, f"Viewport_{f}")(vp), "double")[0] for f in ["x", "y", "width", "height"]] == [10, 20, 400, 300]
+    assert [_osg.ColorMask_getRedMask(cm), _osg.ColorMask_getGreenMask(cm)] == [True, False]
+    other = mk.Viewport()
+    _osg.Camera_setViewport(cam, other)
+    assert int(_osg.Camera_getViewport(cam)) == int(other)
+    assert _osg.Referenced_referenceCount(other) == 3  # ours, the camera's and its state set's
+    assert _osg.Camera_getImplicitBufferAttachmentRenderMask(cam) == _osg.Camera_USE_DISPLAY_SETTINGS_MASK == -1
+    depth_and_color = _osg.Camera_IMPLICIT_DEPTH_BUFFER_ATTACHMENT | _osg.Camera_IMPLICIT_COLOR_BUFFER_ATTACHMENT
+    assert _osg.Camera_getImplicitBufferAttachmentRenderMask(cam, True) == depth_and_color  # the display settings'
+    for args, masks in [((2, 4), (2, 4)), ((1,), (1, depth_and_color)), ((), (depth_and_color, depth_and_color))]:
+        _osg.Camera_setImplicitBufferAttachmentMask(cam, *args)
+        assert (_osg.Camera_getImplicitBufferAttachmentRenderMask(cam),
+                _osg.Camera_getImplicitBufferAttachmentResolveMask(cam, False)) == masks
+    _osg.Camera_setProcessorAffinity(cam, _osgpeer.affinity())
+    assert _osgpeer.affinity_cpus(_osg.Camera_getProcessorAffinity(cam)) == [3]
+
+
+def test_attachments_and_resize(mk):
+    cam, ref = mk.Camera(), mk.Camera()
+    attached = _osg.Camera_getBufferAttachmentMap(cam)  # the camera's own map, taken while empty
+    texture, image = _osgpeer.make_texture(400, 300), _osgpeer.make_image(400, 300)
+    C0, C1, C2 = (getattr(_osg, f"Camera_COLOR_BUFFER{i}") for i in range(3))
+    _osg.Camera_attach(cam, C0, texture)
+    _osg.Camera_attach(cam, C1, texture, 2, 3, True, 4)
+    _osg.Camera_attach(cam, C2, image, 8)
+    _osg.Camera_attach(cam, _osg.Camera_DEPTH_BUFFER, _osgpeer.make_glenum(GL_DEPTH_COMPONENT24))
+    assert _osgpeer.attachments(attached) == [
+        (_osg.Camera_DEPTH_BUFFER, GL_DEPTH_COMPONENT24, None, None, 0, 0, False, 0, 0, 0, 0),
+        (C0, 0, int(texture), None, 0, 0, False, 0, 0, 400, 300), (C1, 0, int(texture), None, 2, 3, True, 4, 0, 400, 300),
+        (C2, 0, None, int(image), 0, 0, False, 8, 0, 400, 300)]
+    assert _osg.Camera_isRenderToTextureCamera(cam) and not _osg.Camera_isRenderToTextureCamera(ref)
+    _osg.Camera_detach(cam, _osg.Camera_DEPTH_BUFFER)
+    assert len(_osgpeer.attachments(attached)) == 3
+    # Resizing keeps the vertical field of view: the projection becomes that of the wider aspect.
+    for c in (cam, ref):
+        _osg.Camera_setViewport(c, 0, 0, 400, 300)
+        _osg.Camera_setProjectionMatrixAsPerspective(c, 45, 4 / 3, 1, 100)
+    _osg.Camera_setProjectionResizePolicy(cam, _osg.Camera_HORIZONTAL)
+    before = _osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(cam))
+    modified = _osg.Camera_getAttachmentMapModifiedCount(cam)
+    _osg.Camera_resize(cam, 800, 300)  # viewport and attachments, not the projection
+    assert [a[-2:] for a in _osgpeer.attachments(attached)] == [(800, 300)] * 3
+    assert at(_osg.Viewport_width(_osg.Camera_getViewport(cam)), "double") == [800]
+    assert _osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(cam)) == before
+    assert _osg.Camera_getAttachmentMapModifiedCount(cam) == modified + 1
+    _osg.Camera_resize(cam, 1600, 300, _osg.Camera_RESIZE_VIEWPORT | _osg.Camera_RESIZE_PROJECTIONMATRIX)
+    _osg.Camera_setProjectionMatrixAsPerspective(ref, 45, 4 / 3 * 2, 1, 100)
+    assert _osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(cam)) == \
+        pytest.approx(_osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(ref)))
+    assert [a[-2:] for a in _osgpeer.attachments(attached)] == [(800, 300)] * 3
+    _osg.Camera_resizeAttachments(cam, 16, 8)
+    assert [a[-2:] for a in _osgpeer.attachments(attached)] == [(16, 8)] * 3
+
+
+def test_render_order_and_sorting(mk):
+    cams = [mk.Camera() for _ in range(4)]
+    for cam, args in zip(cams, [(_osg.Camera_POST_RENDER,), (_osg.Camera_PRE_RENDER, 5), (_osg.Camera_PRE_RENDER, -1),
+                                (_osg.Camera_NESTED_RENDER, 0)]):
+        _osg.Camera_setRenderOrder(cam, *args)
+    keys = [(_osg.Camera_getRenderOrder(c), _osg.Camera_getRenderOrderNum(c)) for c in cams]
+    assert keys == [(2, 0), (0, 5), (0, -1), (1, 0)]  # the short form sets order number 0
+    op = mk(_osg.new_CameraRenderOrderSortOp())
+    by_op = sorted(cams, key=functools.cmp_to_key(lambda a, b: -1 if _osg.CameraRenderOrderSortOp___call__(op, a, b)
+                                                  else int(_osg.CameraRenderOrderSortOp___call__(op, b, a))))
+    assert [int(c) for c in by_op] == [int(c) for _, c in sorted(zip(keys, cams), key=lambda kc: kc[0])]
+    assert _osg.CameraRenderOrderSortOp___call__(op, cams[3], cams[3]) is False
+    _osg.Camera_setRenderTargetImplementation(cams[0], _osg.Camera_FRAME_BUFFER, _osg.Camera_SEPARATE_WINDOW)
+    assert (_osg.Camera_getRenderTargetImplementation(cams[0]), _osg.Camera_getRenderTargetFallback(cams[0])) == (3, 4)
+
+
+def test_ownership(mk):
+    cam = mk.Camera()
+    assert cam.own() and count(cam) == 0  # no reference taken, unlike the Group family
+    _osg.Camera_setClearDepth(cam, 0.25)
+    for copy in [mk(_osg.new_Camera(cam)), mk(_osg.new_Camera(cam, mk.CopyOp()))]:
+        assert copy.own() and count(copy) == 0 and _osg.Camera_getClearDepth(copy) == 0.25
+    clone = _osg.Camera_clone(cam, mk.CopyOp())
+    assert (type_name(clone), clone.own(), _osg.Object_className(clone)) == ("osg::Object *", False, "Camera")
+    assert _osg.Camera_isSameKindAs(cam, clone) and int(_osg.Camera_asCamera(cam)) == int(cam)
+    raises(TypeError, "in method 'Camera_getClearDepth', argument 1 of type 'osg::Camera const *'",
+           _osg.Camera_getClearDepth, clone)
+    free_borrowed(clone)
+    op = _osg.new_CameraRenderOrderSortOp()
+    assert op.own() and _osg.delete_CameraRenderOrderSortOp(op) is None and not op.own()
+
+
+def test_refusals(mk):
+    # Never called: conversion stops at the camera. A real group would move the counts of the
+    # platform library's reference stub, which another test expects untouched.
+    group = _osgpeer.new_pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Group", 0)
+    cam, node = mk.Camera(), mk.Node()
+    for f, args, text in [
+            (_osg.Group_addChild, (group, cam), "argument 2 of type 'osg::Node *'"),
+            (_osg.Node_getNodeMask, (cam,), "argument 1 of type 'osg::Node const *'"),
+            (_osg.Transform_getReferenceFrame, (cam,), "argument 1 of type 'osg::Transform const *'"),
+            (_osg.Object_getName, (cam,), "argument 1 of type 'osg::Object const *'"),
+            (_osg.Referenced_referenceCount, (cam,), "argument 1 of type 'osg::Referenced const *'"),
+            (_osg.delete_Group, (cam,), "argument 1 of type 'osg::Group *'"),
+            (_osg.Camera_setClearDepth, (node, 1.0), "argument 1 of type 'osg::Camera *'"),
+            (_osg.Camera_getViewMatrix, (group,), None),
+            (_osg.CameraRenderOrderSortOp___call__, (mk(_osg.new_CameraRenderOrderSortOp()), cam, node),
+             "argument 3 of type 'osg::Camera const *'"),
+            (_osg.Camera_setDrawBuffer, (cam, GL_BACK), "argument 2 of type 'GLenum'"),
+            (_osg.Camera_setClearMask, (cam, 0x4100), "argument 2 of type 'GLbitfield'"),
+            (_osg.Camera_setClearMask, (cam, _osgpeer.make_glenum(0x4100)), "argument 2 of type 'GLbitfield'"),
+            (_osg.Camera_setClearMask, (cam, None), "invalid null reference |argument 2 of type 'GLbitfield'"),
+            (_osg.Camera_setClearColor, (cam, None), "invalid null reference |argument 2 of type 'osg::Vec4 const &'"),
+            (_osg.Camera_setProcessorAffinity, (cam, "0"), "argument 2 of type 'OpenThreads::Affinity const &'")]:
+        name = f.__name__
+        if text is None:  # a dispatcher: no candidate takes a group
+            raises(TypeError, overload_message(name), f, *args)
+        else:
+            prefix, _, rest = text.rpartition("|")
+            raises(TypeError, f"{prefix}in method '{name}', {rest}", f, *args)
+    # Dispatchers test before they convert: a number, None or an out-of-range component fits no candidate.
+    texture = _osgpeer.make_texture(4, 4)
+    for args in [(0, GL_DEPTH_COMPONENT24), (2**40, texture), (0, texture, 1, 1, 1)]:
+        raises(TypeError, overload_message("Camera_attach"), _osg.Camera_attach, cam, *args)
+    _osg.Camera_attach(cam, 0, None)  # None is a null texture, never a null GLenum
+    assert _osgpeer.attachments(_osg.Camera_getBufferAttachmentMap(cam)) == [(0, 0, None, None, 0, 0, False, 0, 0, 0, 0)]
+    raises(OverflowError, "in method 'Camera_detach', argument 2 of type 'osg::Camera::BufferComponent'",
+           _osg.Camera_detach, cam, 2**40)
+    raises(TypeError, overload_message("Camera_setColorMask"), _osg.Camera_setColorMask, cam, 1, 1, 1, 1)
+    raises(TypeError, overload_message("new_Camera"), _osg.new_Camera, None)  # None fails the reference test
