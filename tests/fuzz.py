@@ -43,7 +43,8 @@ BUILD = os.environ.get("OSG_BUILD_DIR") or os.path.join(HERE, os.pardir, "build"
 NULL_DEREF = {("NotifyHandler_notify", 3), ("StandardNotifyHandler_notify", 3), ("Referenced_addObserver", 2),
               ("StateSet_setAssociatedModes", 2), ("StateSet_removeAssociatedModes", 2),
               ("StateSet_setAssociatedTextureModes", 3), ("StateSet_removeAssociatedTextureModes", 3),
-              ("Matrixd_set", 2), ("Matrixf_set", 2)}  # None takes set(float const *) and is read
+              ("Matrixd_set", 2), ("Matrixf_set", 2),  # None takes set(float const *) and is read
+              ("CameraRenderOrderSortOp___call__", 2), ("CameraRenderOrderSortOp___call__", 3)}
 # Indices OSG reads without a bound check, or grows a container to: (function, 1-based argument).
 INDICES = {("Group_getChild", 2), ("Geode_getDrawable", 2), ("Node_getParent", 2), ("Node_getDescription", 2),
            ("StateAttribute_getParent", 2), ("StateSet_getParent", 2), ("Switch_getValue", 2),
