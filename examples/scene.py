@@ -13,7 +13,7 @@ import osg  # noqa: E402
 
 
 # Children come back as osg.Node proxies; this finds the proxy of each node's own class.
-made = {}
+made: dict = {}
 
 
 def named(node, name):
