@@ -214,8 +214,8 @@ void add_matrix(Table &t) {
         add(t, {[]<class... C>(List<C...>) { return K::template overload_op<"__mul__", C...>(); }(Products{})});
     }
     add(t, {
-        register_row<descriptor_of<M>>(Static<cat(Prefix, Text("_swigregister"))>::c_str()),
-        init_row(Static<cat(Prefix, Text("_swiginit"))>::c_str()),
+        K::register_hook(),
+        K::init_hook(),
     });
 }
 
@@ -238,8 +238,8 @@ void add_ref_matrix(Table &t) {
         K::template fn<"isSameKindAs", &R::isSameKindAs, "osg::Object const *">(),
         K::template fn<"libraryName", &R::libraryName>(),
         K::template fn<"className", &R::className>(),
-        register_row<descriptor_of<R>>(Static<cat(Prefix, Text("_swigregister"))>::c_str()),
-        init_row(Static<cat(Prefix, Text("_swiginit"))>::c_str()),
+        K::register_hook(),
+        K::init_hook(),
     });
 }
 

@@ -83,8 +83,8 @@ void add_vector(Table &t) {
         });
     }
     add(t, {
-        register_row<descriptor_of<V>>(Static<cat(Prefix, Text("_swigregister"))>::c_str()),
-        init_row(Static<cat(Prefix, Text("_swiginit"))>::c_str()),
+        K::register_hook(),
+        K::init_hook(),
     });
 }
 

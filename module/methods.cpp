@@ -38,13 +38,6 @@ void add_comments(std::vector<PyMethodDef> &table) {
     }
 }
 
-// A class whose functions are not bound yet contributes only its class hooks.
-template <int T, wrap::Text Prefix, bool Init = true>
-void hooks(wrap::Table &t) {
-    t.push_back(wrap::register_row<T>(wrap::Static<wrap::cat(Prefix, wrap::Text("_swigregister"))>::c_str()));
-    if constexpr (Init) t.push_back(wrap::init_row(wrap::Static<wrap::cat(Prefix, wrap::Text("_swiginit"))>::c_str()));
-}
-
 std::vector<PyMethodDef> build() {
     wrap::Table t;
     // Classes in the order they register; each family appends its rows in its own order.

@@ -46,7 +46,6 @@ constexpr auto look_at = [](const C *c, auto... a) { c->getViewMatrixAsLookAt(a.
 constexpr auto resize = [](C *c, auto... a) { c->resize(a...); };
 constexpr auto implicit_masks = [](C *c, auto... a) { c->setImplicitBufferAttachmentMask(a...); };
 constexpr auto render_order = [](C *c, auto... a) { c->setRenderOrder(a...); };
-constexpr auto release = [](const C *c, auto... a) { c->releaseGLObjects(a...); };
 
 template <Text Member, auto F, Text... Spell>
 using m = K::m<Member, F, Spell...>;
@@ -184,7 +183,7 @@ void add_camera_rows(Table &t) {
     add(t, {
         K::fn<"getDataChangeMutex", &C::getDataChangeMutex>(),
         K::fn<"resizeGLObjectBuffers", &C::resizeGLObjectBuffers, ui>(),
-        K::overload<"releaseGLObjects", K::forms<"releaseGLObjects", release, 0, List<const C *, osg::State *>, "osg::State *">>(),
+        K::release_gl_objects(),
     });
     K::matrices(t);
     K::hooks(t);

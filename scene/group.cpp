@@ -39,8 +39,7 @@ void add_group_rows(Table &t) {
         KG::fn<"getChildIndex", &G::getChildIndex, "osg::Node const *">(),
         KG::fn<"setThreadSafeRefUnref", &G::setThreadSafeRefUnref, "bool">(),
         KG::fn<"resizeGLObjectBuffers", &G::resizeGLObjectBuffers, "unsigned int">(),
-        KG::overload<"releaseGLObjects", KG::m<"releaseGLObjects", &G::releaseGLObjects, "osg::State *">,
-                     KG::m<"releaseGLObjects", [](const G *self) { self->releaseGLObjects(); }>>(),
+        KG::release_gl_objects(),
     });
     KG::hooks(t);
 }

@@ -91,8 +91,7 @@ void add_node_rows(Table &t) {
                 CC<N::ComputeBoundingSphereCallback>(&N::getComputeBoundingSphereCallback)>(),
         K::fn<"setThreadSafeRefUnref", &N::setThreadSafeRefUnref, "bool">(),
         K::fn<"resizeGLObjectBuffers", &N::resizeGLObjectBuffers, "unsigned int">(),
-        K::overload<"releaseGLObjects", K::m<"releaseGLObjects", &N::releaseGLObjects, "osg::State *">,
-                    K::m<"releaseGLObjects", [](const N *self) { self->releaseGLObjects(); }>>(),
+        K::release_gl_objects(),
     });
     K::hooks(t);
 }

@@ -56,8 +56,8 @@ struct NodeClass : wrap::Class<T, Spelling, Prefix> {
 
     static void hooks(wrap::Table &t) {
         wrap::add(t, {
-            wrap::register_row<wrap::descriptor_of<T>>(wrap::Static<wrap::cat(Prefix, wrap::Text("_swigregister"))>::c_str()),
-            wrap::init_row(wrap::Static<wrap::cat(Prefix, wrap::Text("_swiginit"))>::c_str()),
+            K::register_hook(),
+            K::init_hook(),
         });
     }
 };

@@ -49,8 +49,7 @@ void add_state_attribute_rows(Table &t) {
         K::fn<"apply", &SA::apply, state_ref>(),
         K::fn<"compileGLObjects", &SA::compileGLObjects, state_ref>(),
         K::fn<"resizeGLObjectBuffers", &SA::resizeGLObjectBuffers, "unsigned int">(),
-        K::overload<"releaseGLObjects", K::m<"releaseGLObjects", &SA::releaseGLObjects, "osg::State *">,
-                    K::m<"releaseGLObjects", [](const SA *self) { self->releaseGLObjects(); }>>(),
+        K::release_gl_objects(),
         register_row<ty::p_osg__StateAttribute>("StateAttribute_swigregister"),
     });
 }
@@ -86,8 +85,8 @@ struct Attribute {
     static void tail(Table &t) {
         add(t, {
             KA::template fn<"apply", &T::apply, state_ref>(),
-            register_row<descriptor_of<T>>(Static<cat(Prefix, Text("_swigregister"))>::c_str()),
-            init_row(Static<cat(Prefix, Text("_swiginit"))>::c_str()),
+            KA::register_hook(),
+            KA::init_hook(),
         });
     }
 };

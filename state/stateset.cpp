@@ -154,8 +154,7 @@ void add_state_set_rows(Table &t) {
         K::fn<"setThreadSafeRefUnref", &S::setThreadSafeRefUnref, "bool">(),
         K::fn<"compileGLObjects", &S::compileGLObjects, state_ref>(),
         K::fn<"resizeGLObjectBuffers", &S::resizeGLObjectBuffers, ui>(),
-        K::overload<"releaseGLObjects", K::m<"releaseGLObjects", &S::releaseGLObjects, "osg::State *">,
-                    K::m<"releaseGLObjects", [](const S *s) { s->releaseGLObjects(); }>>(),
+        K::release_gl_objects(),
         register_row<ty::p_osg__StateSet>("StateSet_swigregister"),
         init_row("StateSet_swiginit"),
     });

@@ -122,8 +122,7 @@ void add_object_rows(Table &t) {
         KO::fn<"setUserData", pick<void (O::*)(osg::Referenced *)>(&O::setUserData), "osg::Referenced *">(),
         KO::pair<"getUserData", NC<osg::Referenced>(&O::getUserData), CC<osg::Referenced>(&O::getUserData)>(),
         KO::fn<"resizeGLObjectBuffers", &O::resizeGLObjectBuffers, "unsigned int">(),
-        KO::overload<"releaseGLObjects", KO::m<"releaseGLObjects", &O::releaseGLObjects, "osg::State *">,
-                     KO::m<"releaseGLObjects", [](const O *self) { self->releaseGLObjects(); }>>(),
+        KO::release_gl_objects(),
         register_row<ty::p_osg__Object>("Object_swigregister"),
     });
 }

@@ -10,6 +10,7 @@
 // See wrap/README.md for the concepts.
 #pragma once
 #include "wrap/convert.h"
+#include "wrap/hooks.h"
 #include "wrap/text.h"
 #include "platform/zog_osg.h"
 
@@ -740,6 +741,19 @@ struct Class {
     // delete_<Prefix> for a plain value: delete.
     // Deleting a derived object through T * is undefined, so only T itself is accepted.
     static constexpr Row dtor_delete() { return dtor<delete_object, disown_exact>(); }
+    // <Prefix>_swigregister and <Prefix>_swiginit, the class hooks of the companion layer.
+    static constexpr Row register_hook() {
+        return register_row<descriptor_of<T>>(Static<cat(Prefix, Text("_swigregister"))>::c_str());
+    }
+    static constexpr Row init_hook() { return init_row(Static<cat(Prefix, Text("_swiginit"))>::c_str()); }
+    // releaseGLObjects(osg::State * = 0) const, which every object class repeats: the full form,
+    // then the short one.
+    static constexpr Row release_gl_objects() {
+        return overload<"releaseGLObjects",
+                        m<"releaseGLObjects", [](const T *self, osg::State *state) { self->releaseGLObjects(state); },
+                          "osg::State *">,
+                        m<"releaseGLObjects", [](const T *self) { self->releaseGLObjects(); }>>();
+    }
 
     // A candidate member named `Member` in the prototype.
     template <Text Member, auto F, Text... Spell>
