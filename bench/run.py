@@ -34,36 +34,8 @@ clock = time.perf_counter_ns
 # ---- the realistic setup: classes registered as the proxy module does -----------------
 # Registration gives owned pointers a destroy function (no leak message when they die)
 # and makes by-value results such as Vec3f___add__'s come back as shadow instances.
-class Vec3f:
-    __swig_destroy__ = _osg.delete_Vec3f
-
-
-class Vec3d:
-    __swig_destroy__ = _osg.delete_Vec3d
-
-
-class Quat:
-    __swig_destroy__ = _osg.delete_Quat
-
-
-class Matrixd:
-    __swig_destroy__ = _osg.delete_Matrixd
-
-
-class Matrixf:
-    __swig_destroy__ = _osg.delete_Matrixf
-
-
-class Vec4d:
-    __swig_destroy__ = _osg.delete_Vec4d
-
-
-_osg.Matrixd_swigregister(Matrixd)
-_osg.Matrixf_swigregister(Matrixf)
-_osg.Vec4d_swigregister(Vec4d)
-_osg.Vec3f_swigregister(Vec3f)
-_osg.Vec3d_swigregister(Vec3d)
-_osg.Quat_swigregister(Quat)
+for _name in ["Vec3f", "Vec3d", "Vec4d", "Quat", "Matrixd", "Matrixf"]:
+    getattr(_osg, f"{_name}_swigregister")(type(_name, (), {"__swig_destroy__": getattr(_osg, f"delete_{_name}")}))
 
 
 class Proxy:
