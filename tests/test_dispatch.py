@@ -6,7 +6,7 @@ import re
 
 import pytest
 
-from engine_rows import BY_NAME, DISPATCHERS
+from all_rows import BY_NAME, DISPATCHERS
 from engine_support import _osg, _osgpeer, free_borrowed, mk, raises, type_name, values  # noqa: F401
 
 

@@ -1,5 +1,5 @@
-"""Scene graph: every function's messages, then small real scenes: parents, world matrices,
-ownership and reference counts, switches, clip boxes, smoothing of a real mesh."""
+"""Scene graph: small real scenes: parents, world matrices, ownership and reference counts,
+switches, clip boxes, smoothing of a real mesh; and every function's leak test."""
 import ctypes
 import math
 import os
@@ -8,7 +8,8 @@ import pytest
 
 import test_leaks
 from engine_support import BUILD, _osg, _osgpeer, free_borrowed, mk, raises, type_name  # noqa: F401 (mk)
-from scene_rows import BY_NAME, FOLDS, NODES, SCENE_DISPATCHERS, SCENE_ROWS
+from scene_rows import BY_NAME, NODES
+from test_dispatch import overload_message
 
 zog = ctypes.CDLL(os.path.join(BUILD, "libzogOSG.so"))
 zog.zog_stub_reference_calls.restype = zog.zog_stub_unreference_calls.restype = ctypes.c_ulong
@@ -16,48 +17,6 @@ zog.zog_stub_reference_calls.restype = zog.zog_stub_unreference_calls.restype = 
 
 def calls():
     return zog.zog_stub_reference_calls(), zog.zog_stub_unreference_calls()
-
-
-def in_scope(name):
-    head, _, rest = name.partition("_")
-    return name in FOLDS or (rest in NODES + ["SmoothingVisitor"] if head in ("new", "delete")
-                             else head in NODES + ["SmoothingVisitor"])
-
-
-def test_the_table_names_every_scene_function():
-    assert {n for n in dir(_osg) if callable(getattr(_osg, n)) and in_scope(n) and not n.endswith(("_swigregister", "_swiginit"))} == set(BY_NAME)
-    assert len(BY_NAME) + 2 * 10 == 255  # and each class has its two hooks
-    for cls in NODES + ["SmoothingVisitor"]:
-        assert getattr(_osg, f"{cls}_swiginit") and getattr(_osg, f"{cls}_swigregister")
-
-
-@pytest.mark.parametrize("row", SCENE_ROWS, ids=lambda r: r.name)
-def test_argument_1_and_count_messages(row):
-    f, n = getattr(_osg, row.name), len(row.codes)
-    if n == 0:
-        raises(TypeError, f"_osg.{row.name}() takes no arguments (1 given)", f, 1)
-    elif n == 1:
-        raises(TypeError, f"_osg.{row.name}() takes exactly one argument (2 given)", f, 1, 2)
-    else:
-        raises(TypeError, f"{row.name} expected {n} arguments, got {n + 1}", f, *[object()] * (n + 1))
-    if n:
-        raises(TypeError, f"in method '{row.name}', argument 1 of type '{row.arg1}'", f, *[object()] * n)
-
-
-def overload_message(d):
-    return (f"Wrong number or type of arguments for overloaded function '{d.name}'.\n  Possible C/C++ prototypes are:\n"
-            + "".join(f"    {p}\n" for p in d.protos))
-
-
-@pytest.mark.parametrize("d", SCENE_DISPATCHERS, ids=lambda d: d.name)
-def test_overload_messages(d):
-    f, message = getattr(_osg, d.name), overload_message(d)
-    top = max(p.count(",") + (0 if p.endswith("()") or p.endswith("() const") else 1) for p in d.protos)
-    top += 0 if d.name.startswith("new_") or d.cls is None else 1
-    for n in {1, top}:
-        raises(TypeError, message, f, *[object()] * n)
-    raises(TypeError, f"{d.name} expected at most {top} arguments, got {top + 1}\nAdditional information:\n{message}",
-           f, *[object()] * (top + 1))
 
 
 # ---- scenes ------------------------------------------------------------------------------
@@ -156,9 +115,9 @@ def test_world_matrices_of_a_node_path(scene, owned):
     raises(TypeError, "invalid null reference in method 'MatrixTransform_computeWorldToLocalMatrix', argument 2 of "
            "type 'osg::Matrix &'", _osg.MatrixTransform_computeWorldToLocalMatrix, mt, None, None)
     # None fails the dispatcher's reference test, so the overload message is raised.
-    raises(TypeError, overload_message(BY_NAME["computeEyeToLocal"]), _osg.computeEyeToLocal, view, None)
-    raises(TypeError, overload_message(BY_NAME["computeLocalToWorld"]), _osg.computeLocalToWorld, [root, mt])
-    raises(TypeError, overload_message(BY_NAME["computeLocalToWorld"]), _osg.computeLocalToWorld, path, 1)
+    raises(TypeError, overload_message("computeEyeToLocal"), _osg.computeEyeToLocal, view, None)
+    raises(TypeError, overload_message("computeLocalToWorld"), _osg.computeLocalToWorld, [root, mt])
+    raises(TypeError, overload_message("computeLocalToWorld"), _osg.computeLocalToWorld, path, 1)
     held = _osg.MatrixTransform_getMatrix(mt)
     _osg.MatrixTransform_postMult(mt, translate(1, 1, 1))
     assert point(held, [0, 0, 0]) == [11, 21, 31] and not held.own()  # the node's own matrix
@@ -268,7 +227,7 @@ def test_node_values(made, mk):
 def test_switch_values(made):
     s, a, b = made(_osg.new_Switch()), made(_osg.new_Group()), made(_osg.new_Geode())
     values = _osg.Switch_getValueList(s)
-    raises(TypeError, overload_message(BY_NAME["Switch_addChild"]), _osg.Switch_addChild, s, a, 1)
+    raises(TypeError, overload_message("Switch_addChild"), _osg.Switch_addChild, s, a, 1)
     assert _osg.Switch_addChild(s, a, False) and _osg.Switch_addChild(s, b)
     assert _osgpeer.read_list(values, "_p_std__vectorT_bool_t") == [False, True]
     assert _osg.Switch_setSingleChildOn(s, 0) and (_osg.Switch_getValue(s, 0), _osg.Switch_getChildValue(s, b)) == (True, False)
@@ -293,7 +252,7 @@ def test_clip_box(scene, made):
     assert _osg.ClipNode_getNumClipPlanes(other) == 4 and _osg.ClipNode_addClipPlane(other, first)
     _osg.intrusive_ptr_release(first)
     assert _osg.ClipNode_setLocalStateSetModes(other) is None and _osg.Node_getStateSet(other) is not None
-    raises(TypeError, overload_message(BY_NAME["ClipNode_createClipBox"]), _osg.ClipNode_createClipBox, other, None)
+    raises(TypeError, overload_message("ClipNode_createClipBox"), _osg.ClipNode_createClipBox, other, None)
 
 
 # Two right triangles folded 90 degrees along their shared edge from (0, 0, 0) to (1, 0, 0).
@@ -335,7 +294,7 @@ def test_smoothing_a_folded_mesh(made):
     assert _osgpeer.read_box(_osg.Geode_getBoundingBox(geode)) == (0, 0, 0, 1, 1, 1)
     center = _osgpeer.read_sphere(_osg.Node_getBound(geode))
     assert center[:3] == (0.5, 0.5, 0.5) and center[3] == pytest.approx(math.sqrt(0.75))
-    raises(TypeError, overload_message(BY_NAME["SmoothingVisitor_smooth"]), _osg.SmoothingVisitor_smooth, None)
+    raises(TypeError, overload_message("SmoothingVisitor_smooth"), _osg.SmoothingVisitor_smooth, None)
     _osg.delete_SmoothingVisitor(visitor)
     assert not visitor.own()
 

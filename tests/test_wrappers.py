@@ -2,16 +2,18 @@
 per-argument messages, scalar, boolean, string and null-reference conversion."""
 import pytest
 
-from engine_rows import BY_NAME, DISPATCHERS, ROWS
+from all_rows import BY_NAME, DISPATCHERS, ROWS
 from engine_support import VECTORS, _osg, mk, raises  # noqa: F401  (mk is a fixture)
+from scene_rows import FOLDS, NODES
 
 CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS,
            "Matrixd", "Matrixf", "RefMatrixd", "RefMatrixf", "Plane"}
 CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
 CLASSES |= {"Camera", "CameraRenderOrderSortOp"}
+CLASSES |= {*NODES, "SmoothingVisitor"}
 NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
           "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide", "resizeGLObjectBuffers",
-          "releaseGLObjects"}
+          "releaseGLObjects", *FOLDS}
 
 
 def in_scope(name):
