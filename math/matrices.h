@@ -2,7 +2,7 @@
 // forms. The template is instantiated in two sources, so that the two largest tables of the
 // module compile in parallel.
 #pragma once
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 namespace math_rows {
 

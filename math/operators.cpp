@@ -1,6 +1,6 @@
 // OpenSceneGraph's free products over the value types: the vector-on-the-left side of
 // matrix products, mixed 3-/4-vector dot products, and element-wise products.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

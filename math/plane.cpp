@@ -1,6 +1,6 @@
 // osg::Plane: its normal and point arguments are the double vectors, spelled by the
 // plane's own typedefs.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

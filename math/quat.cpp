@@ -1,5 +1,5 @@
 // osg::Quat, following the vector family's conventions.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

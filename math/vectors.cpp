@@ -1,5 +1,5 @@
 // The six vector classes: one table, instantiated per class.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

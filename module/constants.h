@@ -1,10 +1,5 @@
 #pragma once
-#include <cstddef>
-
-struct IntConstant {
-    const char *name;
-    long value;
-};
+#include "wrap/module.h"
 
 // Installed before and after `cvar`, which sits between the two groups.
 extern const IntConstant int_constants_before_cvar[];

@@ -44,10 +44,6 @@ constexpr char y_axis_ro[] = "Variable Y_AXIS is read-only.";
 constexpr char z_axis_ro[] = "Variable Z_AXIS is read-only.";
 constexpr char face_ro[] = "Variable Camera_FACE_CONTROLLED_BY_GEOMETRY_SHADER is read-only.";
 
-void install(PyObject *d, const IntConstant *table, size_t count) {
-    for (size_t i = 0; i < count; ++i) SWIG_Python_SetConstant(d, table[i].name, PyLong_FromLong(table[i].value));
-}
-
 }  // namespace
 
 PyMODINIT_FUNC PyInit__osg() {
@@ -64,7 +60,7 @@ PyMODINIT_FUNC PyInit__osg() {
 
     SWIG_Python_JoinModuleTable(&swig_module, swig_type_initial_ptrs, swig_cast_initial);
     SWIG_Python_InstallConstantTable(d, swig_const_table);
-    install(d, int_constants_before_cvar, int_constants_before_cvar_count);
+    wrap::install_constants(d, int_constants_before_cvar, int_constants_before_cvar_count);
 
     PyObject *globals = SWIG_globals();
     if (!globals) {
@@ -74,7 +70,7 @@ PyMODINIT_FUNC PyInit__osg() {
     }
     PyDict_SetItemString(d, "cvar", globals);
 
-    install(d, int_constants_after_cvar, int_constants_after_cvar_count);
+    wrap::install_constants(d, int_constants_after_cvar, int_constants_after_cvar_count);
 
     SWIG_Python_AddVarLink(globals, "X_AXIS", axis_get<&X_AXIS>, read_only<x_axis_ro>);
     SWIG_Python_AddVarLink(globals, "Y_AXIS", axis_get<&Y_AXIS>, read_only<y_axis_ro>);

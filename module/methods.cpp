@@ -1,42 +1,12 @@
 // SwigMethods: the module's flat functions, in table order, ending with the null entry.
+#include "module/constants.h"
 #include "module/methods.h"
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
-#include "osg_docs.inc"
-
-#include <cstring>
-#include <deque>
-#include <string>
-#include <string_view>
+#include "docs.inc"
+#include "runtime/type_table.h"
 
 namespace {
-
-const char *comment_of(std::string_view member) {
-    auto *end = std::end(osg_comments);
-    auto *at = std::lower_bound(std::begin(osg_comments), end, member,
-                                [](const auto &e, std::string_view m) { return e.member < m; });
-    return at != end && at->member == member ? osg_comment_texts[at->text] : nullptr;
-}
-
-// Each row's docstring is its prototypes; OSG's comments on the members they name follow.
-void add_comments(std::vector<PyMethodDef> &table) {
-    static std::deque<std::string> docs;
-    for (PyMethodDef &row : table) {
-        if (!row.ml_doc) continue;
-        std::string doc = row.ml_doc;
-        std::vector<const char *> seen;
-        for (std::string_view rest = row.ml_doc; !rest.empty();) {
-            std::string_view line = rest.substr(0, rest.find('\n'));
-            rest.remove_prefix(std::min(rest.size(), line.size() + 1));
-            const char *comment = comment_of(line.substr(0, line.find('(')));
-            if (comment && std::find(seen.begin(), seen.end(), comment) == seen.end()) {
-                seen.push_back(comment);
-                doc.append("\n\n").append(comment);
-            }
-        }
-        if (!seen.empty()) row.ml_doc = docs.emplace_back(std::move(doc)).c_str();
-    }
-}
 
 std::vector<PyMethodDef> build() {
     wrap::Table t;
@@ -70,7 +40,7 @@ std::vector<PyMethodDef> build() {
     add_clip_plane_rows(t);
     add_clip_node_rows(t);
     add_fog_rows(t);
-    add_comments(t);
+    wrap::add_comments(t, osg_comments, osg_comment_texts);
     t.push_back({nullptr, nullptr, 0, nullptr});
     return t;
 }
@@ -80,3 +50,11 @@ std::vector<PyMethodDef> build() {
 // Filled when the shared object loads; the module definition points at it for good.
 static std::vector<PyMethodDef> method_table = build();
 PyMethodDef *const SwigMethods = method_table.data();
+
+const wrap::ModuleTables &wrap::module_tables() {
+    static const ModuleTables tables{"_osg", SwigMethods,
+                                     {{int_constants_before_cvar, int_constants_before_cvar_count},
+                                      {int_constants_after_cvar, int_constants_after_cvar_count}},
+                                     swig_type_initial_ptrs, swig_cast_initial, ty::count};
+    return tables;
+}

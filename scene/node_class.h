@@ -2,7 +2,7 @@
 // as<Class> pair, the local/world matrix members of the transforms (and the camera) and
 // the class hooks. One template, instantiated per class; each class table places them.
 #pragma once
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 namespace scene {
 

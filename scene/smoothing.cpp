@@ -1,5 +1,5 @@
 // osgUtil::SmoothingVisitor: vertex normals for geometries, sharp above a crease angle.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

@@ -1,5 +1,5 @@
 // osg::StateAttribute and the four concrete attributes: Fog, ColorMask, ClipPlane, Viewport.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

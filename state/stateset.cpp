@@ -1,6 +1,6 @@
 // osg::StateSet. Modes and uniform types cross as opaque handles, strings as std::string
 // proxies, and every container as a proxy aliasing the state set's own.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

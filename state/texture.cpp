@@ -1,5 +1,5 @@
 // osg::Texture2D. Its descriptor has no edge to its bases, so only these rows accept it.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

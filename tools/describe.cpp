@@ -1,10 +1,9 @@
-// _osgdescribe: a build-time module linked from _osg's own objects. Its one function returns
-// the method table as JSON: every row in table order with its calling convention, owning
-// class, candidates, parameter and result kinds, plus the constants and the cast graph.
-// Everything the generated layers know of _osg comes from here.
-#include "module/constants.h"
-#include "module/methods.h"
-#include "wrap/table.h"
+// <module>describe: a build-time module linked from a module's own objects (DESCRIBED names
+// it, e.g. _osg). Its one function returns the module's method table as JSON: every row in
+// table order with its calling convention, owning class, candidates, parameter and result
+// kinds, plus the constants and the cast graph. Everything the generated layers know of a
+// module comes from here.
+#include "wrap/module.h"
 
 #include <map>
 #include <string>
@@ -32,7 +31,7 @@ std::string quoted(std::string_view s) {
 }
 
 std::string type_name(int index) {
-    return index < 0 ? "null" : quoted(swig_type_initial_ptrs[index]->name);
+    return index < 0 ? "null" : quoted(wrap::module_tables().types[index]->name);
 }
 
 const char *convention(int flags) {
@@ -51,24 +50,27 @@ void candidate(std::string &out, const wrap::CandidateInfo &c) {
            ", \"own\": " + std::to_string(c.result.own) + "}}";
 }
 
-// The descriptor a class hook registers: _p_osg__<Class> or _p_osgUtil__<Class>.
+// The descriptor a class hook registers: _p_<namespace>__<Class>.
 std::string hook_descriptor(std::string_view cls) {
-    for (int i = 0; i < ty::count; ++i) {
-        std::string_view n = swig_type_initial_ptrs[i]->name;
-        for (std::string_view ns : {std::string_view("_p_osg__"), std::string_view("_p_osgUtil__")})
-            if (n.size() == ns.size() + cls.size() && n.starts_with(ns) && n.ends_with(cls)) return quoted(n);
+    const wrap::ModuleTables &tables = wrap::module_tables();
+    for (std::size_t i = 0; i < tables.type_count; ++i) {
+        std::string_view n = tables.types[i]->name;
+        if (n.starts_with("_p_") && n.ends_with("__" + std::string(cls)) &&
+            n.find("__") == n.size() - cls.size() - 2)
+            return quoted(n);
     }
     return "null";
 }
 
 PyObject *describe(PyObject *, PyObject *) {
+    const wrap::ModuleTables &tables = wrap::module_tables();
     std::map<std::string_view, const wrap::RowInfo *> info;
     for (const wrap::RowInfo *r : wrap::described_rows()) info[r->name] = r;
 
     std::string out = "{\"rows\": [\n";
-    for (PyMethodDef *m = SwigMethods; m->ml_name; ++m) {
+    for (PyMethodDef *m = tables.methods; m->ml_name; ++m) {
         std::string_view name = m->ml_name;
-        if (m != SwigMethods) out += ",\n";
+        if (m != tables.methods) out += ",\n";
         out += "{\"name\": " + quoted(name) + ", \"convention\": " + quoted(convention(m->ml_flags)) +
                ", \"doc\": " + quoted(m->ml_doc ? m->ml_doc : "");
         auto hook = [&](std::string_view suffix) {
@@ -96,8 +98,7 @@ PyObject *describe(PyObject *, PyObject *) {
     }
     out += "\n], \"constants\": [\n";
     bool first = true;
-    for (auto [table, n] : {std::pair{int_constants_before_cvar, int_constants_before_cvar_count},
-                            std::pair{int_constants_after_cvar, int_constants_after_cvar_count}}) {
+    for (auto [table, n] : tables.constants) {
         for (std::size_t i = 0; i < n; ++i) {
             out += (first ? "" : ",\n") + std::string("[") + quoted(table[i].name) + ", " + std::to_string(table[i].value) + "]";
             first = false;
@@ -105,29 +106,34 @@ PyObject *describe(PyObject *, PyObject *) {
     }
     // Each descriptor with the descriptors that convert to it (the cast graph's edges).
     out += "\n], \"types\": [\n";
-    for (int i = 0; i < ty::count; ++i) {
-        out += (i ? ",\n" : "") + std::string("{\"name\": ") + quoted(swig_type_initial_ptrs[i]->name) +
-               ", \"str\": " + quoted(swig_type_initial_ptrs[i]->str) + ", \"from\": [";
+    for (std::size_t i = 0; i < tables.type_count; ++i) {
+        out += (i ? ",\n" : "") + std::string("{\"name\": ") + quoted(tables.types[i]->name) +
+               ", \"str\": " + quoted(tables.types[i]->str) + ", \"from\": [";
         bool any = false;
-        for (swig_cast_info *c = swig_cast_initial[i]; c->type; ++c) {
-            if (c->type == swig_type_initial_ptrs[i]) continue;
+        for (swig_cast_info *c = tables.casts[i]; c->type; ++c) {
+            if (c->type == tables.types[i]) continue;
             out += (any ? ", " : "") + quoted(c->type->name);
             any = true;
         }
         out += "]}";
     }
-    out += "\n]}\n";
+    out += "\n], \"module\": " + quoted(tables.name) + "}\n";
     return PyUnicode_FromStringAndSize(out.data(), (Py_ssize_t)out.size());
 }
 
 PyMethodDef methods[] = {
-    {"describe", describe, METH_NOARGS, "The method table, constants and cast graph of _osg as JSON."},
+    {"describe", describe, METH_NOARGS, "The method table, constants and cast graph of the module as JSON."},
     {nullptr, nullptr, 0, nullptr},
 };
 
 }  // namespace
 
-PyMODINIT_FUNC PyInit__osgdescribe() {
-    static PyModuleDef def = {PyModuleDef_HEAD_INIT, "_osgdescribe", nullptr, -1, methods, nullptr, nullptr, nullptr, nullptr};
+#define ENTRY_OF(name) PyInit_##name##describe
+#define ENTRY(name) ENTRY_OF(name)
+#define TEXT_OF(name) #name "describe"
+#define TEXT(name) TEXT_OF(name)
+
+PyMODINIT_FUNC ENTRY(DESCRIBED)() {
+    static PyModuleDef def = {PyModuleDef_HEAD_INIT, TEXT(DESCRIBED), nullptr, -1, methods, nullptr, nullptr, nullptr, nullptr};
     return PyModule_Create(&def);
 }

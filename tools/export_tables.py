@@ -1,13 +1,12 @@
-"""Writes the binding tables as JSON: export_tables.py BUILD_DIR OUT.json
+"""Writes a module's binding tables as JSON: export_tables.py BUILD_DIR MODULE OUT.json
 
-Imports the build-time describer _osgdescribe (made of _osg's own objects) from BUILD_DIR."""
+Imports the build-time describer <MODULE>describe (made of the module's own objects) from BUILD_DIR."""
+import importlib
 import json
 import sys
 
 sys.path.insert(0, sys.argv[1])
-import _osgdescribe  # noqa: E402
-
-data = json.loads(_osgdescribe.describe())
-with open(sys.argv[2], "w") as f:
+data = json.loads(importlib.import_module(sys.argv[2] + "describe").describe())
+with open(sys.argv[3], "w") as f:
     json.dump(data, f, indent=1)
     f.write("\n")

@@ -1,14 +1,15 @@
-"""Extracts OpenSceneGraph's header comments for the module's docstrings.
+"""Extracts OpenSceneGraph's header comments for a module's docstrings.
 
     python3 tools/gen_docs.py INCLUDE_ROOT TYPE_TABLE HEADER_LIST OUT
 
-Reads every header of INCLUDE_ROOT/osg and osgUtil/SmoothingVisitor, attaches each
-comment block (/** */, /// or //, or a trailing ///<) to the declaration that follows it,
-keyed by the qualified member name as the module's prototypes spell it
-("osg::Vec3f::length", "osg::Matrixf::operator *", "osg::componentMultiply"), lets derived
-classes inherit their bases' comments, and writes a C++ table of the keys that name a class
-of the module's type table (TYPE_TABLE) or a free function of a header the module includes
-(HEADER_LIST).
+Reads every header of INCLUDE_ROOT/osg and every other header HEADER_LIST includes
+(osgUtil/SmoothingVisitor, osgDB/ReadFile, ...), attaches each comment block (/** */, ///
+or //, or a trailing ///<) to the declaration that follows it, keyed by the qualified member
+name as the module's prototypes spell it ("osg::Vec3f::length", "osg::Matrixf::operator *",
+"osg::componentMultiply"), lets derived classes inherit their bases' comments, and writes a
+C++ table of the keys that name a class of the module's type table (TYPE_TABLE, where
+classes are spelled "osg::Class *" or "osg::Class") or a free function of a header the
+module includes.
 """
 import os
 import re
@@ -33,9 +34,9 @@ def clean(lines):
     return "\n".join(out)
 
 
-def parse(path, comments, bases, free=None):
+def parse(path, comments, bases, free=None, spaces=None):
     """Adds {key: [comment, ...]} and {class: [base, ...]} for one header; the names of its
-    namespace-level functions go to `free`."""
+    namespace-level functions go to `free`, each class's namespace to `spaces`."""
     scopes, depth, pending, in_block, block, opened, prev_comment = [], 0, None, False, [], None, False
     with open(path, encoding="latin-1") as f:
         lines = f.read().splitlines()
@@ -71,6 +72,8 @@ def parse(path, comments, bases, free=None):
             opened = ("ns", m.group(1))
         elif c and not code.rstrip().endswith(";"):
             opened = ("class", c.group(1))
+            if spaces is not None and scopes:
+                spaces.setdefault(c.group(1), scopes[0][2])
             bases[c.group(1)] = re.findall(r"(\w+)\s*(?:,|$)", re.sub(r"<[^>]*>", "", c.group(2) or ""))
         elif at_scope and (d := DECL.search(code)) and d.group(1) not in NOT_NAMES:
             name = d.group(1)
@@ -100,7 +103,7 @@ def parse(path, comments, bases, free=None):
             opened = None
 
 
-def inherit(comments, bases):
+def inherit(comments, bases, spaces):
     """Derived::member takes Base::member's comments when Derived declares none."""
     def chain(cls, seen=()):
         for b in bases.get(cls, []):
@@ -112,11 +115,12 @@ def inherit(comments, bases):
         parts = key.split("::")
         if len(parts) == 3:
             by_class.setdefault(parts[1], {})[parts[2]] = comments[key]
+    ns_of = lambda cls: spaces.get(cls, "osg")  # noqa: E731
     for cls in list(bases):
         for base in chain(cls):
             for member, texts in by_class.get(base, {}).items():
                 if member != base and not member.startswith("~"):
-                    comments.setdefault(f"osg::{cls}::{member}", texts)
+                    comments.setdefault(f"{ns_of(cls)}::{cls}::{member}", texts)
 
 
 def c_string(text):
@@ -128,21 +132,24 @@ def c_string(text):
 
 
 def main(root, type_table, header_list, out):
-    comments, bases, free = {}, {}, set()
-    included = set(re.findall(r"#include <osg/(\w+)>", open(header_list).read())) | {"Vec2f", "Vec2d", "Vec3f", "Vec3d",
-                                                                                     "Vec4f", "Vec4d"}
+    comments, bases, free, spaces = {}, {}, set(), {}
+    includes = re.findall(r"#include <(\w+)/(\w+)>", open(header_list).read())
+    included = {n for d, n in includes if d == "osg"} | {"Vec2f", "Vec2d", "Vec3f", "Vec3d", "Vec4f", "Vec4d"}
     for name in sorted(os.listdir(os.path.join(root, "osg"))):
         path = os.path.join(root, "osg", name)
         if os.path.isfile(path):
-            parse(path, comments, bases, free if name in included else None)
-    util = {}
-    parse(os.path.join(root, "osgUtil", "SmoothingVisitor"), util, bases)
-    comments.update(util)
+            parse(path, comments, bases, free if name in included else None, spaces)
+    others = {}
+    for d, n in includes:
+        if d != "osg":
+            parse(os.path.join(root, d, n), others, bases, free, spaces)
+    comments.update(others)
+    namespaces = tuple(f"{d}::" for d in {"osg"} | {d for d, _ in includes})
     for key in list(comments):  # a class's own name is looked up with its namespace
-        if not key.startswith(("osg::", "osgUtil::")):
+        if not key.startswith(namespaces):
             del comments[key]
-    inherit(comments, bases)
-    wanted = set(re.findall(r'(?:osg|osgUtil)::(\w+) \*', open(type_table).read()))
+    inherit(comments, bases, spaces)
+    wanted = set(re.findall(r'(?:osg\w*)::(\w+)(?= \*|")', open(type_table).read()))
     keep = {k: v for k, v in comments.items() if k in free or k.count("::") == 2 and k.split("::")[1] in wanted}
     texts = sorted({"\n".join(v) for v in keep.values()})
     index = {t: i for i, t in enumerate(texts)}

@@ -1,5 +1,5 @@
 // osg::Referenced, osg::CopyOp, osg::Object and osg::DummyObject.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

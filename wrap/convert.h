@@ -1,6 +1,6 @@
 // Argument and result converters, chosen from the C++ type alone.
 #pragma once
-#include "wrap/descriptors.h"
+#include "wrap/descriptor.h"
 #include "wrap/text.h"
 
 #include <climits>

@@ -1,7 +1,7 @@
 // Method-table rows for the class hooks the companion proxy layer calls:
 // <Class>_swigregister(cls) and <Class>_swiginit(self, this).
 #pragma once
-#include "runtime/type_table.h"
+#include "wrap/descriptor.h"
 
 namespace wrap {
 

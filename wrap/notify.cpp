@@ -1,5 +1,5 @@
 // OpenSceneGraph's notification: severity level, stream access and handlers.
-#include "wrap/table.h"
+#include "wrap/osg.h"
 
 using namespace wrap;
 

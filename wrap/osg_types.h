@@ -1,17 +1,15 @@
-// Which type descriptor a C++ type crosses the boundary with. A type listed here is
-// passed as a pointer proxy (by pointer, by reference, or as an owned heap copy when
-// returned by value); every other type must be a scalar, bool or C string.
+// _osg's descriptors by C++ type: a type listed here crosses as a pointer proxy of _osg's
+// type table. Only _osg's families include this; a sibling module maps its own types
+// (wrap/types.h).
 #pragma once
 #include "runtime/osg_headers.h"
 #include "runtime/type_table.h"
+#include "wrap/descriptor.h"
 
 #include <string>
 #include <vector>
 
 namespace wrap {
-
-template <class T>
-inline constexpr int descriptor_of = -1;
 
 // clang-format off
 template <> inline constexpr int descriptor_of<osg::Referenced> = ty::p_osg__Referenced;
@@ -119,13 +117,5 @@ template <> inline constexpr int descriptor_of<osg::Camera::BufferAttachmentMap>
 template <> inline constexpr int descriptor_of<osg::CameraRenderOrderSortOp> = ty::p_osg__CameraRenderOrderSortOp;
 template <> inline constexpr int descriptor_of<OpenThreads::Affinity> = ty::p_OpenThreads__Affinity;
 // clang-format on
-
-template <class T>
-concept Wrapped = descriptor_of<std::remove_cv_t<T>> >= 0;
-
-template <class T>
-inline swig_type_info *descriptor() {
-    return swig_types[descriptor_of<std::remove_cv_t<T>>];
-}
 
 }  // namespace wrap
