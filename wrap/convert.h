@@ -1,5 +1,6 @@
 // Argument and result converters, chosen from the C++ type alone.
 #pragma once
+#include "platform/zog_osg.h"
 #include "wrap/descriptor.h"
 #include "wrap/text.h"
 
@@ -285,6 +286,22 @@ struct Arg<Handle<D, T>> {
 
 // ---- results ------------------------------------------------------------------------
 
+template <class T>
+inline constexpr bool is_ref_ptr = false;
+template <class T>
+inline constexpr bool is_ref_ptr<osg::ref_ptr<T>> = true;
+
+// The reference an owned proxy holds on a reference-counted object, taken the way its destroy
+// function gives it back: a group's through the SDK's library, as the group constructors do.
+template <class T>
+void take_python_reference(T *p) {
+    if (auto *g = dynamic_cast<osg::Group *>(p)) {
+        osg::Group_reference(g);
+    } else {
+        p->ref();
+    }
+}
+
 template <class R>
 PyObject *to_python(R &&r) {
     using T = std::remove_cvref_t<R>;
@@ -312,6 +329,13 @@ PyObject *to_python(R &&r) {
             return SWIG_Python_NewPointerObj(const_cast<char *>(r), pchar, 0);
         }
         return PyUnicode_DecodeUTF8(r, (Py_ssize_t)size, "surrogateescape");
+    } else if constexpr (is_ref_ptr<T>) {  // a new object: the proxy owns one reference to it
+        using P = std::remove_cv_t<typename T::element_type>;
+        static_assert(Wrapped<P>, "reference-counted result of a type without a descriptor");
+        P *p = const_cast<P *>(r.get());
+        if (!p) Py_RETURN_NONE;
+        take_python_reference(p);
+        return SWIG_Python_NewPointerObj(p, descriptor<P>(), SWIG_POINTER_OWN);
     } else if constexpr (std::is_pointer_v<T>) {
         using P = std::remove_cv_t<std::remove_pointer_t<T>>;
         static_assert(Wrapped<P>, "pointer result of a type without a descriptor");
@@ -367,6 +391,8 @@ constexpr ResultKind result_kind() {
         return {"int", -1, 0};
     } else if constexpr (std::is_same_v<T, const char *> || std::is_same_v<T, char *>) {
         return {"cstring", -1, 0};
+    } else if constexpr (is_ref_ptr<T>) {
+        return {"pointer", descriptor_of<std::remove_cv_t<typename T::element_type>>, 1};
     } else if constexpr (std::is_pointer_v<T>) {
         return {"pointer", descriptor_of<std::remove_cv_t<std::remove_pointer_t<T>>>, 0};
     } else if constexpr (std::is_lvalue_reference_v<R>) {

@@ -643,6 +643,14 @@ constexpr Row overload() {
     return row<DispatchOf<Name, plain, Order<>, C...>, Name>();
 }
 
+// A free function of another namespace, named in Python by its last component:
+//   qualified_fn<"osgDB::readNodeFile", F, "std::string const &">()  -> readNodeFile
+template <Text Qualified, auto F, Text... Spell>
+constexpr Row qualified_fn() {
+    constexpr auto name = unqualified<Qualified>();
+    return row<Single<name, Call<name, F, plain, Spell...>, plain>, name, prototype<Qualified, false, Spell...>()>();
+}
+
 // A candidate free function, e.g. fc<"osg::notify", F, "osg::NotifySeverity const">.
 template <Text Qualified, auto F, Text... Spell>
 using fc = Cand<prototype<Qualified, false, Spell...>(), F, Spell...>;

@@ -1,0 +1,26 @@
+// What _osgDB's families include: its type table (the classes its functions take and return)
+// and the engine over it.
+#pragma once
+#include "osgdb/headers.h"
+#include "wrap/types.h"
+
+#include <string>
+
+namespace osgdb {
+
+using Types = wrap::TypeTable<wrap::Type<osg::Referenced, "osg::Referenced">, wrap::Type<osg::Object, "osg::Object">,
+                              wrap::Type<osg::Node, "osg::Node">, wrap::Type<osg::Image, "osg::Image">,
+                              wrap::Type<std::string, "std::string">>;
+
+}  // namespace osgdb
+
+namespace wrap {
+template <class T>
+    requires(osgdb::Types::has<T>)
+inline constexpr int descriptor_of<T> = osgdb::Types::index_of<T>;
+}  // namespace wrap
+
+#include "wrap/table.h"
+
+// The families, in the order their rows appear in the method table.
+void add_file_rows(wrap::Table &t);

@@ -1,0 +1,4 @@
+// The OpenSceneGraph headers of _osgDB's functions.
+#pragma once
+#include <osgDB/ReadFile>
+#include <osgDB/WriteFile>
