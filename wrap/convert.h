@@ -302,10 +302,28 @@ void take_python_reference(T *p) {
     }
 }
 
+// What to_python makes of a result of type R: its kind and, for pointer objects, descriptor
+// and ownership (1 = an owned heap copy).
+struct ResultKind {
+    const char *kind;
+    int descriptor;
+    int own;
+};
+
+// A result type with a conversion of its own: ResultOf<T> has `static PyObject *convert(T &&,
+// PyObject *arg1)`, told the Python object given as argument 1 (so that what it returns can
+// keep that object alive), and `static constexpr ResultKind kind` for the table's description.
+template <class T>
+struct ResultOf;
+template <class T>
+concept CustomResult = requires { ResultOf<T>::kind; };
+
 template <class R>
-PyObject *to_python(R &&r) {
+PyObject *to_python(R &&r, [[maybe_unused]] PyObject *arg1 = nullptr) {
     using T = std::remove_cvref_t<R>;
-    if constexpr (is_handle<T>) {  // a new heap copy, owned
+    if constexpr (CustomResult<T>) {
+        return ResultOf<T>::convert(static_cast<R &&>(r), arg1);
+    } else if constexpr (is_handle<T>) {  // a new heap copy, owned
         return SWIG_Python_NewPointerObj(new auto(r.value), swig_types[T::descriptor], SWIG_POINTER_OWN);
     } else if constexpr (std::is_same_v<T, bool>) {
         return PyBool_FromLong(r);
@@ -366,18 +384,12 @@ constexpr int param_descriptor() {
     }
 }
 
-// What to_python makes of a result of type R: its kind and, for pointer objects, descriptor
-// and ownership (1 = an owned heap copy).
-struct ResultKind {
-    const char *kind;
-    int descriptor;
-    int own;
-};
-
 template <class R>
 constexpr ResultKind result_kind() {
     using T = std::remove_cvref_t<R>;
-    if constexpr (std::is_void_v<R>) {
+    if constexpr (CustomResult<T>) {
+        return ResultOf<T>::kind;
+    } else if constexpr (std::is_void_v<R>) {
         return {"void", -1, 0};
     } else if constexpr (is_handle<T>) {
         return {"handle", T::descriptor, 1};

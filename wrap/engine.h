@@ -188,7 +188,7 @@ struct Call {
             [[maybe_unused]] SwigPyObject *self = nullptr;
             // && folds left to right and stops at the first failure.
             if (!(convert<I, A>(argv[I], std::get<I>(v), self) && ...)) return nullptr;
-            return invoke(v, self, std::index_sequence<I...>{});
+            return invoke(v, self, argv, std::index_sequence<I...>{});
         }
 
         // A dispatcher's test of every argument, keeping the values it found (0, 1 or 2 as a
@@ -210,7 +210,8 @@ struct Call {
         }
 
         template <std::size_t... I>
-        static PyObject *invoke(Stores &v, [[maybe_unused]] SwigPyObject *self, std::index_sequence<I...>) {
+        static PyObject *invoke(Stores &v, [[maybe_unused]] SwigPyObject *self, [[maybe_unused]] PyObject *const *argv,
+                                std::index_sequence<I...>) {
             if constexpr (P.result == Result::InPlace) {
                 // Only now that every argument converted does the incoming proxy give up
                 // ownership, and the result owns exactly when it did: a borrowed proxy (of a
@@ -233,7 +234,11 @@ struct Call {
                 if constexpr (P.take_ref == TakeRef::Group) osg::Group_reference(p);
                 return obj;
             } else {
-                return to_python<Ret>(std::invoke(fn, Arg<A>::get(std::get<I>(v))...));
+                if constexpr (CustomResult<std::remove_cvref_t<Ret>>) {  // told which object argument 1 was
+                    return to_python<Ret>(std::invoke(fn, Arg<A>::get(std::get<I>(v))...), arity ? argv[0] : nullptr);
+                } else {
+                    return to_python<Ret>(std::invoke(fn, Arg<A>::get(std::get<I>(v))...));
+                }
             }
         }
 
@@ -265,8 +270,8 @@ struct Call {
     static int probe(PyObject *const *argv, Stores &v, SwigPyObject *&self) {
         return Run<Params>::probe(argv, v, self, std::make_index_sequence<arity>{});
     }
-    static PyObject *invoke(Stores &v, SwigPyObject *self) {
-        return Run<Params>::invoke(v, self, std::make_index_sequence<arity>{});
+    static PyObject *invoke(Stores &v, SwigPyObject *self, PyObject *const *argv) {
+        return Run<Params>::invoke(v, self, argv, std::make_index_sequence<arity>{});
     }
 };
 
@@ -394,7 +399,7 @@ struct Dispatch {
         int fit = B::probe(argv, v, self);
         if (!fit) return false;
         // What the test kept is the conversion; a converter with more to say converts anew.
-        result = fit == 1 ? B::invoke(v, self) : B::call(argv);
+        result = fit == 1 ? B::invoke(v, self, argv) : B::call(argv);
         return true;
     }
 

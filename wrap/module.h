@@ -18,6 +18,8 @@ struct IntConstant {
 
 namespace wrap {
 
+using Constants = std::vector<IntConstant>;
+
 struct ModuleTables {
     const char *name;
     PyMethodDef *methods;

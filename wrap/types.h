@@ -30,10 +30,12 @@ constexpr auto pointer_name() {
     return out;
 }
 
-template <class T, Text Spelling>
+// Name is the mangled name, where it is not the spelling's (a typedef whose record another
+// module of the ring spells by its template: osg::BoundingBox as _p_osg__BoundingBoxImplT_osg__Vec3d_t).
+template <class T, Text Spelling, Text Name = pointer_name<Spelling>()>
 struct Type {
     using type = T;
-    static constexpr auto name = pointer_name<Spelling>();
+    static constexpr auto name = Name;
     static constexpr auto str = cat(Spelling, Text(" *"));
 };
 
