@@ -236,7 +236,6 @@ PyGetSetDef method_getset[] = {
 
 PyMemberDef method_members[] = {
     {"__vectorcalloffset__", Py_T_PYSSIZET, offsetof(Method, vectorcall), Py_READONLY, nullptr},
-    {"__wrapped__", Py_T_OBJECT_EX, offsetof(Method, flat), Py_READONLY, nullptr},
     {nullptr, 0, 0, 0, nullptr},
 };
 

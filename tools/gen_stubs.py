@@ -1,6 +1,7 @@
-"""Generates type stubs from the binding tables: gen_stubs.py _osg.json OUT_DIR
+"""Generates type stubs from the binding tables: gen_stubs.py BUILD_DIR MODULE.json...
 
-Writes OUT_DIR/_osg.pyi (the flat functions), OUT_DIR/_osgvalues.pyi and OUT_DIR/osg/__init__.pyi.
+Writes BUILD_DIR/<module>.pyi for each flat module, BUILD_DIR/_osgvalues.pyi and
+BUILD_DIR/<package>/__init__.pyi for each package (osg, osgDB, ...).
 Each candidate of a row is one @overload; class pointers and references take the proxy class
 (a pointer also None); the package's forms add the Python values converted at the edge and
 the calls with their out-parameters omitted, as gen_package.py generates them."""
@@ -18,20 +19,30 @@ SCALAR_RESULTS = {"void": "None", "bool": "bool", "int": "int", "float": "float"
 
 
 class Namer:
-    """Annotations as one stub module spells them: `q` prefixes the proxy classes (``"osg."``
-    outside the package); values of _osgvalues are always qualified; others are Any."""
+    """Annotations as one stub module spells them: a proxy class by its name inside its own
+    package and as ``package.Name`` elsewhere; values of _osgvalues are always qualified; others
+    are Any."""
 
-    def __init__(self, model, q, raw_pointer=""):
-        self.model, self.q, self.raw_pointer = model, q, raw_pointer
+    def __init__(self, model, package=None, raw_pointer=""):
+        self.model, self.package, self.raw_pointer = model, package, raw_pointer
+        self.used = set()  # the packages the annotations name
+
+    def name(self, c):
+        home = self.model.package(c.module)
+        if home == self.package:
+            return c.name
+        self.used.add(home)
+        return f"{home}.{c.name}"
 
     def cls(self, descriptor):
         c = self.model.by_descriptor.get(descriptor)
         if c:
-            return self.q + c.name + self.raw_pointer
+            return self.name(c) + self.raw_pointer
         return "_osgvalues." + VALUE_CLASSES[descriptor] if descriptor in VALUE_CLASSES else "Any"
 
     def qualify(self, text):
-        return re.sub(r"\b[A-Z]\w*", lambda m: self.q + m[0] if m[0] in self.model.classes else m[0], text)
+        return re.sub(r"\b[A-Z]\w*", lambda m: self.name(self.model.classes[m[0]]) if m[0] in self.model.classes
+                      else m[0], text)
 
     def param(self, p):
         if p.kind == "scalar":
@@ -52,7 +63,7 @@ class Namer:
         if kind == "new" and self.raw_pointer:
             return "_SwigPyObject"
         # A pointer result is typed as its class, as C++ reads it; it is None where OSG returns null.
-        return self.q + self.model.by_descriptor[d].name if d in self.model.by_descriptor else self.cls(d)
+        return self.name(self.model.by_descriptor[d]) if d in self.model.by_descriptor else self.cls(d)
 
 
 # A type checker takes an int for a float and a bool for an int.
@@ -137,17 +148,19 @@ def sequence_text(model, cls):
     def __setitem__(self, i: int, value: float, /) -> None: ..."""
 
 
-def package_stub(model):
-    names = Namer(model, "")
-    out = [HEADER + "import _osgvalues\n\ncvar: Any\n",
-           "class _Proxy:\n    this: Any\n    thisown: bool"]
+def package_stub(model, package):
+    names = Namer(model, package)
+    modules = [m for m in model.modules if model.package(m) == package]
+    out = ["class _Proxy:\n    this: Any\n    thisown: bool"]
     right = {}
     for r in model.free:
-        if r.name == "__mul__":
+        if r.name == "__mul__" and r.module in modules:
             for c in r.candidates:
                 right.setdefault(c.params[1].descriptor, []).append(([names.param(c.params[0])], names.result(c.result)))
     for cls in model.ordered():
-        lines = [f"class {cls.name}({', '.join(cls.bases) or '_Proxy'}):"]
+        if model.package(cls.module) != package:
+            continue
+        lines = [f"class {cls.name}({', '.join(names.name(model.classes[b]) for b in cls.bases) or '_Proxy'}):"]
         if model.sequence_length(cls) and not any(model.sequence_length(model.classes[b]) for b in cls.bases):
             lines.append(sequence_text(model, cls))
         lines += [f"    {attr}: int" for attr, _ in cls.constants]
@@ -167,35 +180,43 @@ def package_stub(model):
         if cls.descriptor in right:
             lines.append(overloads(model, "__rmul__", right[cls.descriptor], "self", indent="    "))
         out.append("\n".join(lines))
-    out += [overloads(model, r.name, package_forms(model, names, r)) for r in model.free if not r.name.startswith("__")]
-    out.append("\n".join(f"{name}: int" for name, _ in model.constants))
-    out.append("X_AXIS: Vec3f\nY_AXIS: Vec3f\nZ_AXIS: Vec3f")
-    return "\n\n".join(out) + "\n"
+    out += [overloads(model, r.name, package_forms(model, names, r)) for r in model.free
+            if r.module in modules and not r.name.startswith("__")]
+    out.append("\n".join(f"{name}: int" for module, name, _ in model.constants if module in modules))
+    if package == "osg":
+        out.insert(0, "cvar: Any")
+        out.append("X_AXIS: Vec3f\nY_AXIS: Vec3f\nZ_AXIS: Vec3f")
+    imports = "".join(f"import {p}\n" for p in sorted(names.used - {package}))
+    return "\n\n".join([HEADER + "import _osgvalues\n" + imports] + [p for p in out if p]) + "\n"
 
 
-def flat_stub(model):
-    """_osg: every row over the pointer objects, which come back as proxies once osg registered
-    their classes; constructors give the bare pointer object that _swiginit adopts."""
-    names = Namer(model, "osg.", " | _SwigPyObject")
+def flat_stub(model, module):
+    """A flat module: every row over the pointer objects, which come back as proxies once the
+    packages registered their classes; constructors give the bare pointer object that
+    _swiginit adopts."""
+    names = Namer(model, None, " | _SwigPyObject")
     # Any pointer object passes every candidate's check here; the dispatcher picks by its
     # type descriptor at run time, which a type checker cannot see.
-    out = ['# mypy: disable-error-code="overload-overlap"\n' + HEADER + "import _osgvalues\nimport osg\n\ncvar: Any\n",
-           "class _SwigPyObject:  # swig_runtime_data4.SwigPyObject\n"
+    out = ["class _SwigPyObject:  # swig_runtime_data4.SwigPyObject\n"
            "    def own(self, value: bool = ..., /) -> bool: ...\n    def disown(self) -> None: ...\n"
            "    def acquire(self) -> None: ...\n    def __int__(self) -> int: ..."]
     for row in model.rows:
+        if row.module != module:
+            continue
         if row.kind == "register":
             out.append(f"def {row.name}(cls: type, /) -> None: ...")
         elif row.kind == "init":
             out.append(f"def {row.name}(self: Any, this: _SwigPyObject, /) -> None: ...")
         else:
             out.append(overloads(model, row.name, flat_forms(names, row)))
-    out.append("\n".join(f"{name}: int" for name, _ in model.constants))
-    return "\n".join(out) + "\n"
+    out.append("\n".join(f"{name}: int" for m, name, _ in model.constants if m == module))
+    imports = "".join(f"import {p}\n" for p in sorted(names.used))
+    head = '# mypy: disable-error-code="overload-overlap"\n' + HEADER + "import _osgvalues\n" + imports
+    return "\n".join([head] + ["\ncvar: Any\n"] * (module == "_osg") + out) + "\n"
 
 
 def values_stub(model):
-    names = Namer(model, "osg.")
+    names = Namer(model)
     out = [HEADER + "import osg\n",
            "class Value:\n    this: Any\n    thisown: bool\n    @property\n    def value(self) -> Any: ..."]
     reads = {**READ, **{d: t for d, (_, t) in CELLS.items()},
@@ -226,11 +247,14 @@ def write_node(node: osg.Node, filename: str, /) -> bool: ...''')
 
 
 def main():
-    model = Model(sys.argv[1])
-    os.makedirs(os.path.join(sys.argv[2], "osg"), exist_ok=True)
-    for name, text in [("_osg.pyi", flat_stub(model)), ("_osgvalues.pyi", values_stub(model)),
-                       ("osg/__init__.pyi", package_stub(model))]:
-        with open(os.path.join(sys.argv[2], name), "w") as f:
+    build, model = sys.argv[1], Model(sys.argv[2:])
+    stubs = {f"{m}.pyi": flat_stub(model, m) for m in model.modules if model.package(m)}
+    stubs["_osgvalues.pyi"] = values_stub(model)
+    for package in {model.package(m) for m in model.modules} - {None}:
+        os.makedirs(os.path.join(build, package), exist_ok=True)
+        stubs[f"{package}/__init__.pyi"] = package_stub(model, package)
+    for name, text in stubs.items():
+        with open(os.path.join(build, name), "w") as f:
             f.write(text)
 
 

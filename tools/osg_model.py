@@ -1,5 +1,6 @@
-"""The binding tables (build/_osg.json) read as a model of classes, methods and kinds, shared
-by the generators of the osg package and of the stubs."""
+"""The binding tables (build/<module>.json of every module) read as one model of classes,
+methods and kinds, shared by the generators of the packages and of the stubs. A class belongs
+to the module that registers it; another module may add rows to it (its views, say)."""
 import json
 from dataclasses import dataclass, field
 
@@ -93,6 +94,11 @@ class Row:
     candidates: list = field(default_factory=list)
     cls: "Class | None" = None
     attr: str = ""
+    module: str = "_osg"
+
+    @property
+    def flat(self):
+        return f"{self.module}.{self.name}"
 
     @property
     def member(self):
@@ -103,6 +109,7 @@ class Row:
 class Class:
     name: str
     descriptor: str
+    module: str = "_osg"
     constructible: bool = False
     bases: list = field(default_factory=list)
     methods: list = field(default_factory=list)
@@ -112,25 +119,19 @@ class Class:
     spelling: str = ""
 
 
+# The package each module's classes and functions join, and the folder whose package.py (if
+# any) the package takes as written: what a package does beyond forwarding to its module.
+PACKAGES = {"_osg": ("osg", None), "_osgdraw": ("osg", "draw"), "_osgDB": ("osgDB", "osgdb"),
+            "_osgViewer": ("osgViewer", "viewer")}
+
+
 class Model:
     value_descriptors = set()
 
-    def __init__(self, path):
-        with open(path) as f:
-            data = json.load(f)
-        self.types = {t["name"]: t for t in data["types"]}
-        self.constants = [tuple(c) for c in data["constants"]]
-        self.classes = {}
-        self.rows = []
-        for r in data["rows"]:
-            row = Row(r["name"], r["convention"], r["doc"], r["kind"], r)
-            for c in r.get("candidates", []):
-                row.candidates.append(Candidate(c["prototype"], [Param(**p) for p in c["params"]], c["result"]))
-            self.rows.append(row)
-            if row.kind == "register":
-                self.classes[r["prefix"]] = Class(r["prefix"], r["descriptor"])
-            elif row.kind == "init":
-                self.classes[r["prefix"]].constructible = True
+    def __init__(self, paths):
+        self.types, self.constants, self.classes, self.rows, self.modules = {}, [], {}, [], []
+        for path in [paths] if isinstance(paths, str) else paths:
+            self._load(path)
         self.by_descriptor = {c.descriptor: c for c in self.classes.values()}
         names = sorted(self.classes, key=len, reverse=True)
         self.free = []
@@ -156,16 +157,44 @@ class Model:
                 first = c.params[0].spelling if c.params else ""
                 c.member = bool(row.data.get("owner")) and first in (row.data["owner"] + " *", row.data["owner"] + " const *")
             cls.methods.append(row)
-        for name, value in self.constants:
+        for module, name, value in self.constants:
             owner = next((n for n in names if name.startswith(n + "_")), None)
             if owner:
-                self.classes[owner].constants.append((name[len(owner) + 1:], name))
+                self.classes[owner].constants.append((name[len(owner) + 1:], f"{module}.{name}"))
         self._bases()
         # Math values: made without arguments and deleted, never reference counted.
         Model.value_descriptors = {
             c.descriptor for c in self.classes.values()
             if c.delete and c.new and c.new.data["take_ref"] == "none" and any(not k.args for k in c.new.candidates)
             and c.delete.candidates[0].prototype.startswith("osg::") and self.sequence_length(c)}
+
+    def _load(self, path):
+        with open(path) as f:
+            data = json.load(f)
+        module = data.get("module", "_osg")
+        self.modules.append(module)
+        for t in data["types"]:
+            known = self.types.setdefault(t["name"], {"name": t["name"], "str": t["str"], "from": []})
+            known["from"] += [d for d in t["from"] if d not in known["from"]]
+        self.constants += [(module, *c) for c in data["constants"]]
+        for r in data["rows"]:
+            if r["kind"] == "native":
+                continue
+            row = Row(r["name"], r["convention"], r["doc"], r["kind"], r, module=module)
+            for c in r.get("candidates", []):
+                row.candidates.append(Candidate(c["prototype"], [Param(**p) for p in c["params"]], c["result"]))
+            self.rows.append(row)
+            if row.kind == "register":
+                self.classes[r["prefix"]] = Class(r["prefix"], r["descriptor"], module=module)
+            elif row.kind == "init":
+                self.classes[r["prefix"]].constructible = True
+
+    def converts(self, descriptor, base):
+        """Whether a pointer of `descriptor` converts to one of `base` in the ring's cast graph."""
+        return descriptor == base or descriptor in self.types.get(base, {}).get("from", ())
+
+    def package(self, module):
+        return PACKAGES.get(module, (None, None))[0]
 
     def _bases(self):
         """OSG's bases, from the cast graph: the registered classes a class converts to."""
