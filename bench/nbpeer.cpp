@@ -4,6 +4,7 @@
 #include <nanobind/operators.h>
 
 #include <osg/CopyOp>
+#include <osg/MatrixTransform>
 #include <osg/Matrixd>
 #include <osg/Matrixf>
 #include <osg/Quat>
@@ -19,9 +20,14 @@ using namespace osg;
 namespace {
 
 template <class V, class... Scalars>
-void vector_class(nb::module_ &m, const char *name) {
-    nb::class_<V>(m, name).def(nb::init<Scalars...>()).def("length", &V::length);
+nb::class_<V> vector_class(nb::module_ &m, const char *name) {
+    return nb::class_<V>(m, name).def(nb::init<Scalars...>()).def("length", &V::length);
 }
+
+// A transform node as a package holds one: OSG's destructor is protected, so through a reference.
+struct Holder {
+    osg::ref_ptr<osg::MatrixTransform> node = new osg::MatrixTransform;
+};
 
 // Sixteen products, as _osg's free __mul__ lists them.
 template <class A, class B>
@@ -33,12 +39,29 @@ void product(nb::module_ &m) {
 
 NB_MODULE(_nbpeer, m) {
     vector_class<Vec2f, float, float>(m, "Vec2f");
-    vector_class<Vec3f, float, float, float>(m, "Vec3f");
+    vector_class<Vec3f, float, float, float>(m, "Vec3f").def("__add__", [](const Vec3f &a, const Vec3f &b) { return a + b; });
     vector_class<Vec4f, float, float, float, float>(m, "Vec4f");
     vector_class<Vec3d, double, double, double>(m, "Vec3d");
     vector_class<Vec4d, double, double, double, double>(m, "Vec4d");
     nb::class_<Quat>(m, "Quat").def(nb::init<>());
-    nb::class_<Matrixd>(m, "Matrixd").def(nb::init<>());
+    // The package's classes: methods and operators as the osg package has them; __mul__ with
+    // Matrixd___mul__'s five candidates in its order, makeTranslate with its three.
+    using T = Matrixd::value_type;
+    nb::class_<Matrixd>(m, "Matrixd")
+        .def(nb::init<>())
+        .def("getTrans", &Matrixd::getTrans)
+        .def("__mul__", [](const Matrixd &a, const Vec3f &v) { return a * v; })
+        .def("__mul__", [](const Matrixd &a, const Vec3d &v) { return a * v; })
+        .def("__mul__", [](const Matrixd &a, const Vec4f &v) { return a * v; })
+        .def("__mul__", [](const Matrixd &a, const Vec4d &v) { return a * v; })
+        .def("__mul__", [](const Matrixd &a, const Matrixd &b) { return a * b; })
+        .def("makeTranslate", [](Matrixd &a, const Vec3f &v) { a.makeTranslate(v); })
+        .def("makeTranslate", [](Matrixd &a, const Vec3d &v) { a.makeTranslate(v); })
+        .def("makeTranslate", [](Matrixd &a, T x, T y, T z) { a.makeTranslate(x, y, z); });
+    nb::class_<Holder>(m, "MatrixTransform")
+        .def(nb::init<>())
+        .def("setMatrix", [](Holder &t, const Matrixd &a) { t.node->setMatrix(a); })
+        .def("getMatrix", [](const Holder &t) { return t.node->getMatrix(); });
     nb::class_<Matrixf>(m, "Matrixf").def(nb::init<>());
 
     m.def("vec3f_length", [](const Vec3f &v) { return v.length(); });
@@ -48,7 +71,6 @@ NB_MODULE(_nbpeer, m) {
     m.def("vec3f_mul", [](const Vec3f &a, const Vec3f &b) { return a * b; });
     m.def("vec3f_mul", [](const Vec3f &a, float b) { return a * b; });
     // Eight candidates in _osg's order; (angle, Vec3d) is the fourth.
-    using T = Matrixd::value_type;
     m.def("matrixd_make_rotate", [](Matrixd &s, const Vec3f &a, const Vec3f &b) { s.makeRotate(a, b); });
     m.def("matrixd_make_rotate", [](Matrixd &s, const Vec3d &a, const Vec3d &b) { s.makeRotate(a, b); });
     m.def("matrixd_make_rotate", [](Matrixd &s, T a, const Vec3f &v) { s.makeRotate(a, v); });

@@ -58,6 +58,7 @@ PyMODINIT_FUNC PyInit__osg() {
     PyObject *m = PyModule_Create2(&SWIG_module, 1013);
     PyObject *d = PyModule_GetDict(m);
 
+    swig_module.clientdata = wrap::fast_table();  // the wrappers without their tuples, for the packages
     SWIG_Python_JoinModuleTable(&swig_module, swig_type_initial_ptrs, swig_cast_initial);
     SWIG_Python_InstallConstantTable(d, swig_const_table);
     wrap::install_constants(d, int_constants_before_cvar, int_constants_before_cvar_count);

@@ -2,8 +2,9 @@
 //
 // - Importing it teaches the ring OSG's class hierarchy (its type table, proxy/bind.h).
 // - `method(flat)` is a method descriptor over a flat function: called with the instance as
-//   argument 1 through vectorcall, it allocates no bound method and runs the flat function's C
-//   body directly, so a package call costs about what the flat call does. Its options convert
+//   argument 1 through vectorcall, it allocates no bound method, and it runs the flat function's
+//   wrapper on the argument array (its module's fast entry), without the tuple the flat call
+//   makes, so a package call costs no more than the flat one. Its options convert
 //   Python values at the edge, read results back as Python values, and downcast results.
 // - `init(new)` is the same for `__init__`: the pointer object `new_<Class>` returns becomes the
 //   instance's `this`, as `<Class>_swiginit` does; with `adopt`, Python takes the reference that
@@ -106,6 +107,7 @@ struct Method {
     vectorcallfunc vectorcall;
     PyObject *flat;  // the flat function: for its messages, its doc and introspection
     PyCFunction body;
+    const swig_fast_entry *fast;  // its wrapper without the argument tuple, where its module has one
     PyObject *module;
     int flags;
     Mode mode;
@@ -142,6 +144,7 @@ PyObject *const *convert(Method *m, PyObject *const *args, Py_ssize_t n, PyObjec
 }
 
 PyObject *call_flat(Method *m, PyObject *const *args, Py_ssize_t n) {
+    if (m->fast && n >= m->fast->min && n <= m->fast->max) return m->fast->fast(args, n);
     if (m->flags & METH_O) {
         if (n == 1) return m->body(m->module, args[0]);
     } else if (m->flags & METH_NOARGS) {
@@ -195,7 +198,7 @@ PyObject *method_call(PyObject *callable, PyObject *const *args, size_t nargsf, 
                 Py_DECREF(r);
                 r = done ? (Py_DECREF(done), Py_NewRef(Py_None)) : nullptr;
             } else {
-                int failed = PyObject_SetAttr(args[0], SWIG_This(), r);
+                int failed = SWIG_Python_SetThis(args[0], r);
                 Py_DECREF(r);
                 r = failed ? nullptr : Py_NewRef(Py_None);
             }
@@ -268,6 +271,7 @@ PyObject *make(PyObject *flat, Mode mode, bool cast, bool own, PyObject *edge, P
     m->vectorcall = method_call;
     m->flat = Py_NewRef(flat);
     m->body = PyCFunction_GET_FUNCTION(flat);
+    m->fast = SWIG_FindFastEntry(m->body);
     m->module = Py_XNewRef(PyCFunction_GET_SELF(flat));
     m->flags = flags;
     m->mode = mode;

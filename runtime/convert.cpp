@@ -1,5 +1,6 @@
 // Pointer conversion in both directions, shadow instances and class registration.
 #include "swigrt.h"
+#include <cstdint>
 #include <cstdlib>
 
 PyObject *SWIG_This() {
@@ -19,11 +20,60 @@ static void keep_temporary(PyObject *obj) {
     Py_XDECREF(old);  // last, since its destroy function may convert again
 }
 
+// Where a class keeps `this` in a slot of its instances (the generated packages' classes do),
+// its offset; -1 where the attribute protocol must run. The slot is found as the lookup finds
+// it (a member descriptor on the class, no __getattribute__, __getattr__ or __setattr__ of the
+// class's own) and remembered by the class's version tag, which any change to the class or its
+// bases clears.
+static Py_ssize_t this_offset(PyTypeObject *t) {
+    struct Entry {
+        PyTypeObject *type;
+        unsigned int version;
+        Py_ssize_t offset;
+    };
+    static Entry cache[16];
+    Entry &e = cache[((uintptr_t)t >> 5) & 15];
+    if (t->tp_version_tag && e.type == t && e.version == t->tp_version_tag) return e.offset;
+    Py_ssize_t offset = -1;
+    if (t->tp_getattro == PyObject_GenericGetAttr && t->tp_setattro == PyObject_GenericSetAttr) {
+        PyObject *descr = _PyType_Lookup(t, SWIG_This());  // gives the class a version tag
+        if (descr && Py_IS_TYPE(descr, &PyMemberDescr_Type)) {
+            // Found on the object's own class, the slot is one of its instances'.
+            PyMemberDef *member = ((PyMemberDescrObject *)descr)->d_member;
+            if (member->type == Py_T_OBJECT_EX && !(member->flags & Py_READONLY)) offset = member->offset;
+        }
+    }
+    if (t->tp_version_tag) e = {t, t->tp_version_tag, offset};
+    return offset;
+}
+
+// The instance's `this`, read from its slot as the attribute lookup would, without its calls
+// or its AttributeError for a slot not yet set: 1 with the value (borrowed) or null, 0 where
+// the lookup must run.
+static int this_slot(PyObject *pyobj, PyObject **value) {
+    Py_ssize_t offset = this_offset(Py_TYPE(pyobj));
+    if (offset < 0) return 0;
+    *value = *(PyObject **)((char *)pyobj + offset);
+    return 1;
+}
+
+int SWIG_Python_SetThis(PyObject *inst, PyObject *value) {
+    Py_ssize_t offset = this_offset(Py_TYPE(inst));
+    if (offset < 0) return PyObject_SetAttr(inst, SWIG_This(), value);
+    Py_XSETREF(*(PyObject **)((char *)inst + offset), Py_NewRef(value));
+    return 0;
+}
+
 SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
     // A proxy whose `this` is itself a proxy is followed down to the pointer object; the
     // depth is bounded, so that a `this` leading back to itself fails instead of looping.
     for (int depth = 0; !SwigPyObject_Check(pyobj); ++depth) {
         PyObject *obj = nullptr;
+        if (depth < 32 && this_slot(pyobj, &obj)) {
+            if (!obj) return nullptr;
+            pyobj = obj;
+            continue;
+        }
         // The optional lookup spares building an AttributeError for every number a dispatcher tests.
         if (depth == 32 || PyObject_GetOptionalAttr(pyobj, SWIG_This(), &obj) <= 0) {
             PyErr_Clear();
@@ -91,7 +141,7 @@ PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_t
     PyObject *inst = nullptr;
     if (data->newraw) {
         inst = PyObject_Call(data->newraw, data->newargs, nullptr);
-        if (inst && PyObject_SetAttr(inst, SWIG_This(), swig_this) == -1) {
+        if (inst && SWIG_Python_SetThis(inst, swig_this) == -1) {
             Py_DECREF(inst);
             inst = nullptr;
         }
@@ -107,7 +157,7 @@ PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_t
         // Setting `this` changes the instance, never its class, so the class's attribute
         // cache stays valid; invalidating it here would cost every later method lookup on the
         // class, and after about a thousand results CPython stops caching its attributes.
-        if (inst && PyObject_SetAttr(inst, SWIG_This(), swig_this) == -1) Py_CLEAR(inst);
+        if (inst && SWIG_Python_SetThis(inst, swig_this) == -1) Py_CLEAR(inst);
     }
     return inst;
 }
@@ -203,7 +253,7 @@ PyObject *SWIG_Python_Init(PyObject *args) {
         PyObject *res = SwigPyObject_append((PyObject *)sthis, obj[1]);
         if (!res) return nullptr;
         Py_DECREF(res);
-    } else if (PyObject_SetAttr(obj[0], SWIG_This(), obj[1]) != 0) {
+    } else if (SWIG_Python_SetThis(obj[0], obj[1]) != 0) {
         return nullptr;
     }
     Py_RETURN_NONE;

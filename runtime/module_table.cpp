@@ -1,7 +1,9 @@
 // Joining the ring of modules that share the capsule, constant installation and teardown.
 #include "swigrt.h"
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 
 PyObject *Swig_This_global = nullptr;
 PyObject *Swig_TypeCache_global = nullptr;
@@ -149,4 +151,25 @@ void SWIG_Python_PatchPointerDocs(PyMethodDef *methods, const swig_const_info *c
         std::strcpy(buff, tname);
         m->ml_doc = ndoc;  // the old text is static; nothing to free
     }
+}
+
+const swig_fast_entry *SWIG_FindFastEntry(PyCFunction wrapper) {
+    auto *head = (swig_module_info *)PyCapsule_Import(SWIG_CAPSULE_NAME, 0);
+    if (!head) {
+        PyErr_Clear();
+        return nullptr;
+    }
+    swig_module_info *iter = head;
+    do {
+        auto *table = (const swig_fast_table *)iter->clientdata;
+        if (table && table->magic == SWIG_FAST_TABLE_MAGIC) {
+            const swig_fast_entry *first = table->entries, *last = first + table->count;
+            auto *at = std::lower_bound(first, last, wrapper, [](const swig_fast_entry &e, PyCFunction w) {
+                return std::less<const void *>()((const void *)e.wrapper, (const void *)w);
+            });
+            if (at != last && at->wrapper == wrapper) return at;
+        }
+        iter = iter->next;
+    } while (iter != head);
+    return nullptr;
 }

@@ -21,9 +21,7 @@ char *SWIG_PackData(char *c, const void *ptr, size_t sz) {
 
 // ---- SwigPyObject -------------------------------------------------------------
 
-int SwigPyObject_Check(PyObject *op) {
-    PyTypeObject *t = Py_TYPE(op);
-    if (t == SwigPyObject_type()) return 1;
+int SwigPyObject_CheckByName(PyTypeObject *t) {
     // Anything smaller than a pointer object (every ordinary proxy instance) cannot be one.
     return t->tp_basicsize >= (Py_ssize_t)sizeof(SwigPyObject) && std::strcmp(t->tp_name, "swig_runtime_data4.SwigPyObject") == 0;
 }
@@ -187,7 +185,10 @@ static PyTypeObject *SwigPyObject_TypeOnce() {
     return (PyTypeObject *)PyType_FromSpec(&spec);
 }
 
+PyTypeObject *SwigPyObject_cached = nullptr;
+
 PyTypeObject *SwigPyObject_type() {
+    if (SwigPyObject_cached) return SwigPyObject_cached;
     // A failed build throws out of the static initialiser, so the next call retries.
     struct Once {
         PyTypeObject *type;
@@ -197,7 +198,7 @@ PyTypeObject *SwigPyObject_type() {
     };
     try {
         static Once once;
-        return once.type;
+        return SwigPyObject_cached = once.type;
     } catch (int) {
         return nullptr;
     }

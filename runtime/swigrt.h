@@ -78,6 +78,24 @@ swig_type_info *SWIG_TypeQueryModule(swig_module_info *start, swig_module_info *
 swig_type_info *SWIG_Python_TypeQuery(const char *name);
 const char *SWIG_TypePrettyName(const swig_type_info *type);
 
+// A module's wrappers called with their arguments as an array instead of a tuple, for callers
+// that hold them as one (the packages' method descriptors): `fast` does what `wrapper` does for
+// a count in [min, max]; any other count is left to `wrapper`, for its own message. A module
+// of the family publishes its table as its swig_module_info's client data.
+typedef PyObject *(*swig_fast_call)(PyObject *const *args, Py_ssize_t n);
+struct swig_fast_entry {
+    PyCFunction wrapper;
+    swig_fast_call fast;
+    Py_ssize_t min, max;
+};
+struct swig_fast_table {
+    unsigned long magic;  // SWIG_FAST_TABLE_MAGIC: client data another module may leave null
+    const swig_fast_entry *entries;  // sorted by wrapper
+    size_t count;
+};
+#define SWIG_FAST_TABLE_MAGIC 0x5f6661737474626cUL
+const swig_fast_entry *SWIG_FindFastEntry(PyCFunction wrapper);
+
 // ---- module-wide globals (one set per linking module) ------------------------
 extern PyObject *Swig_This_global;
 extern PyObject *Swig_TypeCache_global;
@@ -125,7 +143,13 @@ struct SwigPyPacked {
 
 PyTypeObject *SwigPyObject_type();
 PyTypeObject *SwigPyPacked_type();
-int SwigPyObject_Check(PyObject *op);
+// A pointer object of this module's type, or of another module's by the shared type name.
+extern PyTypeObject *SwigPyObject_cached;
+int SwigPyObject_CheckByName(PyTypeObject *t);
+inline int SwigPyObject_Check(PyObject *op) {
+    PyTypeObject *t = Py_TYPE(op);
+    return t == SwigPyObject_cached || SwigPyObject_CheckByName(t);
+}
 int SwigPyPacked_Check(PyObject *op);
 PyObject *SwigPyObject_New(void *ptr, swig_type_info *ty, int own);
 PyObject *SwigPyPacked_New(void *ptr, size_t size, swig_type_info *ty);
@@ -147,6 +171,9 @@ SwigPyClientData *SwigPyClientData_New(PyObject *obj);
 void SwigPyClientData_Del(SwigPyClientData *data);
 
 SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj);
+// Stores an instance's `this` as the attribute protocol would, straight into its slot where its
+// class keeps it in one.
+int SWIG_Python_SetThis(PyObject *inst, PyObject *value);
 int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags);
 // The same conversion, also reporting which pointer object of the chain matched (null for None).
 int SWIG_Python_ConvertPtrMatch(PyObject *obj, void **ptr, swig_type_info *ty, int flags, SwigPyObject **matched);

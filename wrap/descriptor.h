@@ -11,6 +11,7 @@
 // The live type table of the module being built (one per extension module), filled when the
 // module joins the ring of modules that share the capsule.
 extern swig_type_info *swig_types[];
+extern swig_module_info swig_module;
 
 namespace wrap {
 

@@ -310,6 +310,9 @@ struct Single {
             return finish(C::call(&PyTuple_GET_ITEM(args, 0)));
         }
     }
+
+    static constexpr Py_ssize_t min_args = n, max_args = n;
+    static PyObject *fast(PyObject *const *args, Py_ssize_t) { return finish(C::call(args)); }
 };
 
 // ---- overload dispatch ----------------------------------------------------------------
@@ -422,7 +425,42 @@ struct Dispatch {
         if constexpr (P.not_implemented) return not_implemented(dispatch(args));
         return dispatch(args);
     }
+
+    // The same for a count the unpacking takes, without the tuple.
+    static constexpr Py_ssize_t min_args = 0, max_args = max_arity;
+    static PyObject *fast(PyObject *const *args, Py_ssize_t argc) {
+        PyObject *result = nullptr;
+        bool found = [&]<std::size_t... K>(std::index_sequence<K...>) {
+            return (try_one<K>(args, argc, result) || ...);
+        }(std::make_index_sequence<sizeof...(C)>{});
+        if (!found) SWIG_Python_RaiseOrModifyTypeError(message.v);
+        if constexpr (P.not_implemented) return not_implemented(found ? result : nullptr);
+        return found ? result : nullptr;
+    }
 };
+
+// ---- fast entries: every row's wrapper without its argument tuple -----------------------
+
+inline std::vector<swig_fast_entry> &fast_entries() {
+    static std::vector<swig_fast_entry> entries;
+    return entries;
+}
+
+template <class W>
+struct Fast {
+    static inline const bool registered = (fast_entries().push_back({W::wrapper, W::fast, W::min_args, W::max_args}), true);
+};
+
+// The module's entries sorted, for its swig_module_info's client data.
+inline swig_fast_table *fast_table() {
+    static swig_fast_table table{};
+    auto &e = fast_entries();
+    std::sort(e.begin(), e.end(), [](const swig_fast_entry &a, const swig_fast_entry &b) {
+        return std::less<const void *>()((const void *)a.wrapper, (const void *)b.wrapper);
+    });
+    table = {SWIG_FAST_TABLE_MAGIC, e.data(), e.size()};
+    return &table;
+}
 
 // ---- rows described as data ---------------------------------------------------------------
 
@@ -575,6 +613,7 @@ struct Describe<Dispatch<Name, P, TryOrder, C...>, Doc> {
 template <class W, Text Name, Text Doc, Text Owner = Text(""), Text Prefix = Text("")>
 constexpr Row row() {
     (void)&Describe<W, Doc>::template as<Name, Owner, Prefix>::registered;
+    (void)&Fast<W>::registered;
     return {Static<Name>::c_str(), W::wrapper, W::flags, Static<Doc>::c_str()};
 }
 // A dispatcher documents itself: its candidates' prototypes.

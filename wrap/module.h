@@ -74,6 +74,7 @@ inline PyObject *init_module(PyModuleDef &def, void (*join)()) {
     def.m_methods = m.methods;
     PyObject *module = PyModule_Create2(&def, 1013);
     if (!module) return nullptr;
+    swig_module.clientdata = fast_table();
     join();
     PyObject *dict = PyModule_GetDict(module);
     for (auto [table, count] : m.constants) install_constants(dict, table, count);
