@@ -40,16 +40,6 @@ void SWIG_Python_JoinModuleTable(swig_module_info *module, swig_type_info **type
         } while (iter != head);
         module->next = head->next;
         head->next = module;
-        // An owned pointer object holds a reference to the capsule, and any module of the ring may
-        // take that ownership away (_osg.delete_Referenced on an object _osgdraw made): every module
-        // must count on the one shared capsule, or a joiner's objects release references they never took.
-        if (PyObject *runtime = PyImport_AddModule("swig_runtime_data4")) {
-            if (PyObject *capsule = PyObject_GetAttrString(runtime, "type_pointer_capsule")) {
-                Swig_Capsule_global = capsule;
-                Py_DECREF(capsule);  // borrowed, as the creator's is: the runtime module holds it
-            }
-        }
-        PyErr_Clear();
     } else {
         PyObject *runtime = PyImport_AddModule("swig_runtime_data4");
         PyObject *capsule = PyCapsule_New((void *)module, SWIG_CAPSULE_NAME, SWIG_Python_DestroyModule);
