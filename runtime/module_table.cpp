@@ -79,6 +79,23 @@ void SWIG_Python_JoinModuleTable(swig_module_info *module, swig_type_info **type
     module->types[module->size] = nullptr;
 }
 
+// The runtime sets Swig_Capsule_global only in the module that created the capsule, yet objects
+// of one module are given back by the destroy functions of another (the packages destroy
+// everything reference-counted through _osg.delete_Referenced), whose disowning releases the
+// reference its own global names: a sibling that joined the ring must hold the same capsule when
+// it makes an owned object, or each such object lowers the capsule's count until the runtime
+// module holds a freed capsule.
+void SWIG_Python_HoldSharedCapsule() {
+    if (Swig_Capsule_global) return;  // this module created it
+    PyObject *runtime = PyImport_AddModule("swig_runtime_data4");
+    PyObject *capsule = runtime ? PyObject_GetAttrString(runtime, "type_pointer_capsule") : nullptr;
+    if (capsule) {
+        Swig_Capsule_global = capsule;
+        Py_DECREF(capsule);  // borrowed, as the creator's is: the runtime module holds it
+    }
+    PyErr_Clear();
+}
+
 void SWIG_Python_DestroyModule(PyObject *capsule) {
     auto *module = (swig_module_info *)PyCapsule_GetPointer(capsule, SWIG_CAPSULE_NAME);
     if (--interpreter_counter != 0) return;  // other users remain

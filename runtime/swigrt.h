@@ -120,6 +120,9 @@ struct swig_const_info {
 void SWIG_Python_JoinModuleTable(swig_module_info *module, swig_type_info **type_initial,
                                  swig_cast_info **cast_initial);
 void SWIG_Python_DestroyModule(PyObject *capsule);
+// For a module that joined a ring another module started: owned pointer objects hold the shared
+// capsule through this module's Swig_Capsule_global too, as the creator's do.
+void SWIG_Python_HoldSharedCapsule();
 void SWIG_Python_InstallConstantTable(PyObject *d, const swig_const_info *constants);
 void SWIG_Python_PatchPointerDocs(PyMethodDef *methods, const swig_const_info *constants,
                                   swig_type_info **types);

@@ -372,6 +372,7 @@ PyMODINIT_FUNC PyInit__osgvalues() {
     PyObject *m = PyModule_Create2(&def, 1013);
     if (!m) return nullptr;
     join();
+    SWIG_Python_HoldSharedCapsule();
     PyObject *d = PyModule_GetDict(m);
     PyObject *r = PyRun_String(class_source, Py_file_input, d, d);
     if (!r) return nullptr;

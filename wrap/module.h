@@ -62,23 +62,6 @@ inline void install_constants(PyObject *dict, const IntConstant *table, std::siz
     for (std::size_t i = 0; i < count; ++i) SWIG_Python_SetConstant(dict, table[i].name, PyLong_FromLong(table[i].value));
 }
 
-// An owned pointer object holds a reference to the capsule through its module's Swig_Capsule_global,
-// which the runtime sets only in the module that created the capsule. A sibling's objects are
-// given back through _osg's destroy functions (delete_Referenced, reached by the cast graph), and
-// _osg's disowning releases a reference to the capsule it created: a sibling that joined its ring
-// must take that reference when it makes an owned object, or each one lowers the capsule's count
-// until the runtime module holds a freed capsule.
-inline void hold_shared_capsule() {
-    if (Swig_Capsule_global) return;  // this module created it
-    PyObject *runtime = PyImport_AddModule("swig_runtime_data4");
-    PyObject *capsule = runtime ? PyObject_GetAttrString(runtime, "type_pointer_capsule") : nullptr;
-    if (capsule) {
-        Swig_Capsule_global = capsule;
-        Py_DECREF(capsule);  // borrowed, as the creator's is: the runtime module holds it
-    }
-    PyErr_Clear();
-}
-
 // The entry of a sibling module, in the order _osg's own entry brings the runtime up: the
 // proxy types, the module, the join into the ring (join links the module's type table),
 // then the constants.
@@ -93,7 +76,7 @@ inline PyObject *init_module(PyModuleDef &def, void (*join)()) {
     if (!module) return nullptr;
     swig_module.clientdata = fast_table();
     join();
-    hold_shared_capsule();
+    SWIG_Python_HoldSharedCapsule();
     PyObject *dict = PyModule_GetDict(module);
     for (auto [table, count] : m.constants) install_constants(dict, table, count);
     return module;
