@@ -1,7 +1,7 @@
 """A small scene built with the osg package, printed as a tree with each node's class, name
-and world position; with OSG's file writer installed, also written as scene.osgt for a viewer.
+and world position; with a file name, also written for an OSG viewer (scene.osgt).
 
-    ./run example"""
+    ./run example [scene.osgt]"""
 import math
 import os
 import sys
@@ -10,15 +10,11 @@ sys.path.insert(0, os.environ.get("OSG_BUILD_DIR") or os.path.join(os.path.dirna
 
 import _osgvalues  # noqa: E402
 import osg  # noqa: E402
-
-
-# Children come back as osg.Node proxies; this finds the proxy of each node's own class.
-made: dict = {}
+import osgDB  # noqa: E402
 
 
 def named(node, name):
     node.setName(name)
-    made[int(node.this)] = node
     return node
 
 
@@ -43,27 +39,26 @@ def build():
 
 
 def show(node, path=()):
+    """Each node as its own class: a child comes back as the class it was made as."""
     path = path + (node,)
     x, y, z = osg.computeLocalToWorld(list(path)).getTrans()
     extra = ""
-    if node.className() == "ClipNode":
-        extra = f", {made[int(node.this)].getNumClipPlanes()} clip planes"
-    parent = path[-2].asSwitch() if len(path) > 1 else None
-    if parent is not None:
-        extra += ", on" if parent.getChildValue(node) else ", off"
-    print(f"{'    ' * (len(path) - 1)}{node.className()} '{node.getName()}' at ({x:g}, {y:g}, {z:g}){extra}")
-    group = node.asGroup()
-    if group is not None and node.asGeode() is None:
-        for i in range(group.getNumChildren()):
-            show(group.getChild(i), path)
+    if isinstance(node, osg.ClipNode):
+        extra = f", {node.getNumClipPlanes()} clip planes"
+    if len(path) > 1 and isinstance(path[-2], osg.Switch):
+        extra += ", on" if path[-2].getChildValue(node) else ", off"
+    print(f"{'    ' * (len(path) - 1)}{type(node).__name__} '{node.getName()}' at ({x:g}, {y:g}, {z:g}){extra}")
+    if isinstance(node, osg.Group):
+        for i in range(node.getNumChildren()):
+            show(node.getChild(i), path)
 
 
 def main():
     root = build()
     show(root)
-    if len(sys.argv) > 1 and _osgvalues.write_node(root, sys.argv[1]):
+    if len(sys.argv) > 1:
+        osgDB.writeNodeFile(root, sys.argv[1])
         print(f"written to {sys.argv[1]}")
-    made.clear()
 
 
 main()

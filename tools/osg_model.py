@@ -119,10 +119,11 @@ class Class:
     spelling: str = ""
 
 
-# The package each module's classes and functions join, and the folder whose package.py (if
-# any) the package takes as written: what a package does beyond forwarding to its module.
-PACKAGES = {"_osg": ("osg", None), "_osgdraw": ("osg", "draw"), "_osgDB": ("osgDB", "osgdb"),
-            "_osgViewer": ("osgViewer", "viewer")}
+# The package each module's classes and functions join.
+PACKAGES = {"_osg": "osg", "_osgdraw": "osg", "_osgDB": "osgDB", "_osgViewer": "osgViewer"}
+# Python written, not generated, that a package takes as it stands after its generated part:
+# what a package does beyond forwarding to its modules (files that do not exist are skipped).
+EXTRAS = {"osg": ["viewer/osg_extras.py"], "osgDB": ["osgdb/package.py"], "osgViewer": ["viewer/package.py"]}
 
 
 class Model:
@@ -194,7 +195,7 @@ class Model:
         return descriptor == base or descriptor in self.types.get(base, {}).get("from", ())
 
     def package(self, module):
-        return PACKAGES.get(module, (None, None))[0]
+        return PACKAGES.get(module)
 
     def _bases(self):
         """OSG's bases, from the cast graph: the registered classes a class converts to."""
