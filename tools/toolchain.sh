@@ -94,10 +94,11 @@ host_mirror() {
 # fetches a new root's packages into the cache while debootstrap runs.  It does not know
 # what debootstrap installs, so it fetches a few of those packages again.
 host_apt() { APT_CONFIG=$CACHE/host/apt.conf apt-get -q -y "$@"; }
+prefetch() { host_apt update && host_apt install -d --no-install-recommends "$@"; }
 host_apt_setup() {
     local h=$CACHE/host
     mkdir -p "$h/etc/apt/apt.conf.d" "$h/etc/apt/preferences.d" "$h/etc/apt/sources.list.d" \
-        "$h/var/lib/apt/lists/partial" "$CACHE/archives/partial"
+        "$h/var/lib/apt/lists/partial"
     : >"$h/status"
     echo "deb [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $1 $SUITE main" >"$h/etc/apt/sources.list"
     printf '%s\n' "Dir \"$h/\";" "Dir::State::status \"$h/status\";" "Dir::Cache::archives \"$CACHE/archives/\";" \
@@ -128,8 +129,8 @@ in_root() {
         PYTHONDONTWRITEBYTECODE=1 $pass bash -c \"\$0\"" "$1"
 }
 
-# create_root PACKAGES: the base system, from the cached tarball or else with debootstrap,
-# while the host fetches PACKAGES.
+# create_root STAGES: the base system, from the cached tarball or else with debootstrap,
+# while the host fetches the packages of STAGES.
 create_root() {
     local base=$CACHE/$SUITE-base.tar mirror fetch
     rm -rf "$ROOT" && mkdir -p "$ROOT"
@@ -143,11 +144,11 @@ create_root() {
     fi
     mirror=$(host_mirror)
     host_apt_setup "$mirror"
-    step "fetch the package lists of $SUITE" host_apt update
-    step "fetch $(wc -w <<<"$1") packages (in the background)" host_apt install -d --no-install-recommends $1 &
+    step "fetch the packages of $* (in the background)" prefetch $(for s; do packages "$s"; done) &
     fetch=$!
     step "debootstrap $SUITE from $mirror" \
         debootstrap --variant=minbase "$SUITE" "$ROOT" "$mirror" /usr/share/debootstrap/scripts/sid
+    wait "$fetch"
     # The mirror's testing Release file may be past its Valid-Until date.  No fsync: the root
     # is a cache, rebuilt when it breaks.
     printf '%s\n' 'Acquire::Check-Valid-Until "false";' 'Acquire::Languages "none";' \
@@ -157,7 +158,6 @@ create_root() {
     rm -f "$ROOT"/var/lib/apt/lists/*_dists_*
     cp "$CACHE"/host/var/lib/apt/lists/*_dists_* "$ROOT/var/lib/apt/lists/"
     step "save the base system as $base" sh -c "tar --numeric-owner -C '$ROOT' -cf '$base.tmp' . && mv '$base.tmp' '$base'"
-    wait "$fetch"
 }
 
 provision() {
@@ -173,11 +173,11 @@ provision() {
         t0=$(date +%s)
         echo "toolchain: adding stages $todo to the Debian $SUITE root at $ROOT" >&2
         pkgs=$(for s in $todo; do [ "$s" = base ] || packages "$s"; done | xargs)
-        if [[ " $todo " = *" base "* ]]; then create_root "$pkgs"; fi
+        if [[ " $todo " = *" base "* ]]; then create_root ${todo#base }; fi
         # The root's lists are those of the day it was made, which the cached .debs fit;
         # once the archive has dropped those versions, update the lists and fetch again.
         get="DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $pkgs"
-        step "install $(wc -w <<<"$pkgs") packages" in_root "$get || { apt-get update -q && $get; }" apt
+        step "install the packages of ${todo#base }" in_root "$get || { apt-get update -q && $get; }" apt
         for s in $todo; do stamp_of "$s" >"$ROOT/.stage-$s"; done
         echo "toolchain: root ready in $(( $(date +%s) - t0 ))s" >&2
     fi
