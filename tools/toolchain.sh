@@ -31,10 +31,10 @@ test    mypy                        tests/test_stubs.py type-checks the stubs an
 test    python3-venv                tests/test_install.py: pip install into a fresh venv
 test    python3-pip
 test    python3-scikit-build-core
-test    python3-numpy               tests and examples hand arrays to the modules
-test    python3-pil                 tests and examples read rendered images
+test    python3-numpy               tests and examples use them; the modules do not
+test    python3-pil
 bench   nanobind-dev                the benchmark's peer module, bench/nbpeer.cpp
-bench   linux-perf                  profiling the benchmark
+bench   linux-perf                  for profiling the benchmark by hand
 render  xvfb                        offscreen rendering: an X server without a screen
 render  xauth                       xvfb-run needs it
 render  libgl1-mesa-dri             Mesa's software OpenGL
@@ -129,8 +129,8 @@ in_root() {
         PYTHONDONTWRITEBYTECODE=1 $pass bash -c \"\$0\"" "$1"
 }
 
-# create_root STAGES: the base system, from the cached tarball or else with debootstrap,
-# while the host fetches the packages of STAGES.
+# create_root STAGES: the base system, from the cached tarball (delete it to bootstrap
+# afresh) or else with debootstrap while the host fetches the packages of STAGES.
 create_root() {
     local base=$CACHE/$SUITE-base.tar mirror fetch
     rm -rf "$ROOT" && mkdir -p "$ROOT"
