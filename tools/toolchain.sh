@@ -165,7 +165,7 @@ provision() {
     [ -n "$(missing "$@")" ] || return 0
     [ "$(id -u)" = 0 ] || fail "provisioning the toolchain root needs root"
     mkdir -p "$CACHE/archives/partial"
-    # One provisioning at a time: roots share the cache, and a root's stages its apt.
+    # One provisioning at a time: all roots share the cache, and a root's stages share its apt.
     exec 9>"$CACHE/lock"
     flock 9
     todo=$(missing "$@" | xargs)
