@@ -1,23 +1,75 @@
 #!/usr/bin/env bash
 # Runs a command with the project's toolchain: CPython 3.14 with headers, OSG 3.6
 # development files, g++ and cmake.  Uses the host when it already has them;
-# otherwise a Debian testing root, created on first use and cached outside the
-# checkout, rebuilt only when its package list changes.
+# otherwise a Debian testing root cached outside the checkout.  The root grows by
+# stages, so that the first command on a new machine waits only for what it needs:
+# each command names the stages it uses and the missing ones are installed then.
 #
-#   tools/toolchain.sh CMD [ARGS...]     run CMD (in the checkout) with the toolchain
-#   tools/toolchain.sh --provision       only make sure the root exists
+#   tools/toolchain.sh [--stage NAME]... CMD [ARGS...]   run CMD (in the checkout) with the
+#                                                        build stage and the named ones
+#   tools/toolchain.sh [--stage NAME]...                 only provision them
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 shared=$(cd "$here/../shared" 2>/dev/null && pwd || true)
 ROOT=${OSG_TOOLCHAIN_ROOT:-/var/cache/osg-binding-toolchain/forky}
+# Everything downloaded (the base root as a tarball, every .deb) is kept here, so that a
+# root rebuilt on this machine downloads nothing.
+CACHE=${OSG_TOOLCHAIN_CACHE:-/var/cache/osg-binding-toolchain/cache}
 SUITE=forky
-PACKAGES="python3-dev python3-pytest g++ cmake make libopenscenegraph-dev binutils gdb valgrind libc6-dbg nanobind-dev linux-perf mypy python3-scikit-build-core python3-venv python3-pip"
 
-step_start=0
-step() { step_name=$1; step_start=$(date +%s); printf 'toolchain: %s ...\n' "$step_name" >&2; }
-step_done() { printf 'toolchain: %s done (%ss)\n' "$step_name" "$(( $(date +%s) - step_start ))" >&2; }
-fail() { printf 'toolchain: FAILED at step "%s": %s\n' "${step_name:-setup}" "$*" >&2; exit 1; }
+# Stage, package, and why.  A package dropped from a stage stays in existing roots.
+STAGES="
+build   python3-dev
+build   g++
+build   cmake
+build   make
+build   libopenscenegraph-dev
+build   binutils
+test    python3-pytest
+test    mypy                        tests/test_stubs.py type-checks the stubs and examples
+test    python3-venv                tests/test_install.py: pip install into a fresh venv
+test    python3-pip
+test    python3-scikit-build-core
+test    python3-numpy               tests and examples use them; the modules do not
+test    python3-pil
+bench   nanobind-dev                the benchmark's peer module, bench/nbpeer.cpp
+bench   linux-perf                  for profiling the benchmark by hand
+render  xvfb                        offscreen rendering: an X server without a screen
+render  xauth                       xvfb-run needs it
+render  libgl1-mesa-dri             Mesa's software OpenGL
+debug   gdb                         no command uses these: tools/toolchain.sh --stage debug
+debug   valgrind
+debug   libc6-dbg
+"
+packages() { awk -v s="$1" '$1 == s { print $2 }' <<<"$STAGES" | xargs; }
+stamp_of() { if [ "$1" = base ]; then echo "debootstrap --variant=minbase $SUITE"; else packages "$1"; fi; }
+# A root made before the stages (with one .stamp) is kept: its stages only need checking.
+have() {
+    [ "$(cat "$ROOT/.stage-$1" 2>/dev/null)" = "$(stamp_of "$1")" ] ||
+        { [ "$1" = base ] && grep -qsx "suite=$SUITE" "$ROOT/.stamp"; }
+}
+# The stages to add; all of them when the base system itself is missing or out of date.
+missing() {
+    local s
+    have base || { echo base build "$@"; return; }
+    for s in build "$@"; do have "$s" || echo "$s"; done
+}
+
+fail() { printf 'toolchain: %s\n' "$*" >&2; exit 1; }
+# step NAME CMD [ARGS...]: CMD's output goes to a log, shown only when CMD fails.
+step() {
+    local name=$1 t0 log; shift
+    t0=$(date +%s); log=$(mktemp "$CACHE/log.XXXXXX")
+    printf 'toolchain: %s ...\n' "$name" >&2
+    if ! "$@" >"$log" 2>&1; then
+        tail -n 20 "$log" >&2
+        printf 'toolchain: FAILED at step "%s" (log: %s)\n' "$name" "$log" >&2
+        return 1
+    fi
+    rm -f "$log"
+    printf 'toolchain: %s done (%ss)\n' "$name" "$(( $(date +%s) - t0 ))" >&2
+}
 
 native_ok() {
     command -v python3.14 >/dev/null 2>&1 || return 1
@@ -38,10 +90,24 @@ host_mirror() {
     printf '%s\n' "$m"
 }
 
-stamp_text() { printf 'suite=%s\npackages=%s\n' "$SUITE" "$PACKAGES"; }
+# The host's apt, pointed at $SUITE with lists of its own and none of the host's settings,
+# fetches a new root's packages into the cache while debootstrap runs.  It does not know
+# what debootstrap installs, so it fetches a few of those packages again.
+host_apt() { APT_CONFIG=$CACHE/host/apt.conf apt-get -q -y "$@"; }
+prefetch() { host_apt update && host_apt install -d --no-install-recommends "$@"; }
+host_apt_setup() {
+    local h=$CACHE/host
+    mkdir -p "$h/etc/apt/apt.conf.d" "$h/etc/apt/preferences.d" "$h/etc/apt/sources.list.d" \
+        "$h/var/lib/apt/lists/partial"
+    : >"$h/status"
+    echo "deb [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $1 $SUITE main" >"$h/etc/apt/sources.list"
+    printf '%s\n' "Dir \"$h/\";" "Dir::State::status \"$h/status\";" "Dir::Cache::archives \"$CACHE/archives/\";" \
+        'Acquire::Check-Valid-Until "false";' 'Acquire::Languages "none";' >"$h/apt.conf"
+}
 
-# Runs a shell command inside the root as root, with private mounts.  The checkout
-# and ../shared appear at the same absolute paths as outside.
+# in_root CMD [apt]: runs a shell command inside the root as root, with private mounts.  The
+# checkout and ../shared appear at the same absolute paths as outside; with "apt", so does
+# the cache's .deb store at apt's own place.
 in_root() {
     local binds="mount --bind /dev '$ROOT/dev' && mount -t proc proc '$ROOT/proc'"
     local d
@@ -49,6 +115,7 @@ in_root() {
         mkdir -p "$ROOT$d"
         binds="$binds && mount --bind '$d' '$ROOT$d'"
     done
+    [ "${2:-}" = apt ] && binds="$binds && mount --bind '$CACHE/archives' '$ROOT/var/cache/apt/archives'"
     if [ -e /etc/resolv.conf ]; then
         binds="$binds && cp -L /etc/resolv.conf '$ROOT/etc/resolv.conf' 2>/dev/null; true"
     fi
@@ -62,54 +129,71 @@ in_root() {
         PYTHONDONTWRITEBYTECODE=1 $pass bash -c \"\$0\"" "$1"
 }
 
-provision() {
-    if [ -f "$ROOT/.stamp" ] && [ "$(cat "$ROOT/.stamp")" = "$(stamp_text)" ]; then
-        return 0
+# create_root STAGES: the base system, from the cached tarball (delete it to bootstrap
+# afresh) or else with debootstrap while the host fetches the packages of STAGES.
+create_root() {
+    local base=$CACHE/$SUITE-base.tar mirror fetch
+    rm -rf "$ROOT" && mkdir -p "$ROOT"
+    if [ -f "$base" ]; then
+        step "unpack the base system from $base" tar --numeric-owner -C "$ROOT" -xf "$base"
+        return
     fi
-    [ "$(id -u)" = 0 ] || fail "provisioning the toolchain root needs root"
-    local t0; t0=$(date +%s)
-    echo "toolchain: creating the Debian $SUITE root at $ROOT (one-off, a few minutes)" >&2
-    rm -rf "$ROOT.tmp"
-    mkdir -p "$(dirname "$ROOT")"
-
-    step "install debootstrap on the host"
     if ! command -v debootstrap >/dev/null 2>&1; then
-        { apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq debootstrap; } >/dev/null 2>&1 \
-            || fail "apt-get install debootstrap"
+        step "install debootstrap on the host" sh -c \
+            'apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq debootstrap'
     fi
-    step_done
-
-    local mirror script=/usr/share/debootstrap/scripts/sid
     mirror=$(host_mirror)
-    step "debootstrap $SUITE from $mirror"
-    debootstrap --variant=minbase "$SUITE" "$ROOT.tmp" "$mirror" "$script" >"$ROOT.tmp.log" 2>&1 \
-        || { tail -n 20 "$ROOT.tmp.log" >&2; fail "debootstrap (log: $ROOT.tmp.log)"; }
-    step_done
-
-    # The mirror's testing Release file may be past its Valid-Until date.
-    echo 'Acquire::Check-Valid-Until "false";' > "$ROOT.tmp/etc/apt/apt.conf.d/99no-valid-until"
-
-    local final=$ROOT; ROOT=$ROOT.tmp
-    step "apt-get install $PACKAGES"
-    in_root "apt-get update -qq && DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $PACKAGES && apt-get clean" \
-        >"$final.tmp.log" 2>&1 || { tail -n 20 "$final.tmp.log" >&2; fail "apt-get install inside the root (log: $final.tmp.log)"; }
-    step_done
-    ROOT=$final
-
-    stamp_text > "$ROOT.tmp/.stamp"
-    rm -rf "$ROOT" && mv "$ROOT.tmp" "$ROOT" && rm -f "$ROOT.tmp.log"
-    echo "toolchain: root ready in $(( $(date +%s) - t0 ))s" >&2
+    host_apt_setup "$mirror"
+    step "fetch the packages of $* (in the background)" prefetch $(for s; do packages "$s"; done) &
+    fetch=$!
+    step "debootstrap $SUITE from $mirror" \
+        debootstrap --variant=minbase "$SUITE" "$ROOT" "$mirror" /usr/share/debootstrap/scripts/sid
+    wait "$fetch"
+    # The mirror's testing Release file may be past its Valid-Until date.  No fsync: the root
+    # is a cache, rebuilt when it breaks.
+    printf '%s\n' 'Acquire::Check-Valid-Until "false";' 'Acquire::Languages "none";' \
+        >"$ROOT/etc/apt/apt.conf.d/99osg-toolchain"
+    echo force-unsafe-io >"$ROOT/etc/dpkg/dpkg.cfg.d/99osg-toolchain"
+    # The root resolves with the lists the host fetched with, so that the fetched .debs fit it.
+    rm -f "$ROOT"/var/lib/apt/lists/*_dists_*
+    cp "$CACHE"/host/var/lib/apt/lists/*_dists_* "$ROOT/var/lib/apt/lists/"
+    step "save the base system as $base" sh -c "tar --numeric-owner -C '$ROOT' -cf '$base.tmp' . && mv '$base.tmp' '$base'"
 }
 
-if [ "${1:-}" = "--provision" ]; then
-    native_ok && { echo "toolchain: host has Python 3.14 and OSG; no root needed" >&2; exit 0; }
-    provision; exit 0
-fi
-[ $# -gt 0 ] || { echo "usage: $0 CMD [ARGS...] | --provision" >&2; exit 2; }
+provision() {
+    local todo s t0 pkgs get
+    [ -n "$(missing "$@")" ] || return 0
+    [ "$(id -u)" = 0 ] || fail "provisioning the toolchain root needs root"
+    mkdir -p "$CACHE/archives/partial"
+    # One provisioning at a time: all roots share the cache, and a root's stages share its apt.
+    exec 9>"$CACHE/lock"
+    flock 9
+    todo=$(missing "$@" | xargs)
+    if [ -n "$todo" ]; then
+        t0=$(date +%s)
+        echo "toolchain: adding stages $todo to the Debian $SUITE root at $ROOT" >&2
+        pkgs=$(for s in $todo; do [ "$s" = base ] || packages "$s"; done | xargs)
+        if [[ " $todo " = *" base "* ]]; then create_root ${todo#base }; fi
+        # The root's lists are those of the day it was made, which the cached .debs fit;
+        # once the archive has dropped those versions, update the lists and fetch again.
+        get="DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $pkgs"
+        step "install the packages of ${todo#base }" in_root "$get || { apt-get update -q && $get; }" apt
+        for s in $todo; do stamp_of "$s" >"$ROOT/.stage-$s"; done
+        echo "toolchain: root ready in $(( $(date +%s) - t0 ))s" >&2
+    fi
+    exec 9>&-
+}
 
+stages=()
+while [ "${1:-}" = --stage ]; do
+    [ -n "$(packages "${2:-}")" ] || fail "no stage \"${2:-}\"; stages: $(awk 'NF { print $1 }' <<<"$STAGES" | uniq | xargs)"
+    stages+=("$2"); shift 2
+done
 if [ -z "${OSG_FORCE_ROOT:-}" ] && native_ok; then
+    [ $# -gt 0 ] || { echo "toolchain: host has Python 3.14 and OSG; no root needed" >&2; exit 0; }
     cd "$here" && exec "$@"
 fi
-provision
+provision "${stages[@]}"
+[ $# -gt 0 ] || exit 0
 cmd=$(printf '%q ' "$@")
 in_root "cd '$here' && $cmd"
