@@ -118,8 +118,7 @@ static void SwigPyObject_dealloc(PyObject *v) {
         auto *data = ty ? (SwigPyClientData *)ty->clientdata : nullptr;
         PyObject *destroy = data ? data->destroy : nullptr;
         if (destroy) {
-            PyObject *type, *value, *traceback;
-            PyErr_Fetch(&type, &value, &traceback);
+            PyObject *pending = PyErr_GetRaisedException();
             PyObject *res = nullptr;
             if (data->delargs) {
                 // A temporary that does not own, so the destroy call cannot recurse into here.
@@ -134,12 +133,11 @@ static void SwigPyObject_dealloc(PyObject *v) {
                 res = meth(mself, v);
             }
             if (res) {
-                PyErr_Restore(type, value, traceback);
                 Py_DECREF(res);
             } else {
                 PyErr_WriteUnraisable(destroy);
-                PyErr_Restore(type, value, traceback);
             }
+            PyErr_SetRaisedException(pending);
         } else {
             std::printf("swig/python detected a memory leak of type '%s', no destructor found.\n", SWIG_TypePrettyName(ty));
         }
