@@ -31,6 +31,30 @@ void buffer_data_rows(Table &t) {
 
 namespace {
 
+template <class S>
+Checked<View> typed(A *a, GLint k) {
+    if ((unsigned int)k * sizeof(S) != a->getElementSize())
+        return raise<View>(PyExc_BufferError, "the array's elements are not whole components of its data type");
+    S *data = static_cast<S *>(const_cast<GLvoid *>(a->getDataPointer()));
+    Py_ssize_t n = a->getNumElements();
+    return {k == 1 ? view_of(data, {n}, a) : view_of(data, {n, (Py_ssize_t)k}, a)};
+}
+
+// Any array as (N, k), or (N,) when k is 1, of the data type and size it reports.
+Checked<View> array_view(A *a, int) {
+    switch (a->getDataType()) {
+        case GL_FLOAT: return typed<GLfloat>(a, a->getDataSize());
+        case GL_DOUBLE: return typed<GLdouble>(a, a->getDataSize());
+        case GL_UNSIGNED_BYTE: return typed<GLubyte>(a, a->getDataSize());
+        case GL_BYTE: return typed<GLbyte>(a, a->getDataSize());
+        case GL_UNSIGNED_SHORT: return typed<GLushort>(a, a->getDataSize());
+        case GL_SHORT: return typed<GLshort>(a, a->getDataSize());
+        case GL_UNSIGNED_INT: return typed<GLuint>(a, a->getDataSize());
+        case GL_INT: return typed<GLint>(a, a->getDataSize());
+        default: return raise<View>(PyExc_BufferError, "the array's data type has no buffer format");
+    }
+}
+
 void add_array_base(Table &t, Constants &c) {
     add(t, {
         KA::fn<"isSameKindAs", &A::isSameKindAs, "osg::Object const *">(),
@@ -58,6 +82,7 @@ void add_array_base(Table &t, Constants &c) {
         KA::fn<"setPreserveDataType", &A::setPreserveDataType, "bool">(),
         KA::fn<"getPreserveDataType", &A::getPreserveDataType>(),
         KA::fn<"trim", [](A *a) { return unless_exported(a, [&] { a->trim(); }); }>(),
+        KA::fn<"__buffer__", array_view, "int">(),
     });
     buffer_data_rows(t);
     t.push_back(KA::register_hook());

@@ -20,6 +20,19 @@ Checked<unsigned int> checked_index(const T *p, unsigned int pos) {
     return {p->index(pos)};
 }
 
+// The element list of a DrawElements as (N,) of its index type; other sets have no memory.
+Checked<View> elements_view(P *p, int) {
+    osg::DrawElements *e = p->getDrawElements();
+    if (!e) return raise<View>(PyExc_BufferError, "a primitive set without an element list has no view");
+    void *data = const_cast<GLvoid *>(e->getDataPointer());
+    Py_ssize_t n = e->getNumIndices();
+    switch (e->getDataType()) {
+        case GL_UNSIGNED_BYTE: return {view_of(static_cast<GLubyte *>(data), {n}, p)};
+        case GL_UNSIGNED_SHORT: return {view_of(static_cast<GLushort *>(data), {n}, p)};
+        default: return {view_of(static_cast<GLuint *>(data), {n}, p)};
+    }
+}
+
 void add_primitive_set(Table &t, Constants &c) {
     add(t, {
         KP::fn<"isSameKindAs", &P::isSameKindAs, "osg::Object const *">(),
@@ -42,6 +55,7 @@ void add_primitive_set(Table &t, Constants &c) {
         KP::fn<"dirty", [](P *self) { self->dirty(); }>(),
         KP::fn<"setModifiedCount", [](P *self, unsigned int n) { self->setModifiedCount(n); }, uint>(),
         KP::fn<"getModifiedCount", [](const P *self) { return self->getModifiedCount(); }>(),
+        KP::fn<"__buffer__", elements_view, "int">(),
         KP::register_hook(),
     });
     c.insert(c.end(), {
