@@ -139,14 +139,15 @@ def test_geometry_in_a_group_and_its_bound(run_py):
         import math, _osg, _osgdraw as D, _osgpeer as P
         import test_draw_geometry as t
         g, group = t.mesh(), _osg.new_Group()
-        print(_osg.Group_addChild(group, g), _osg.Node_getNumParents(g), P.read_box(D.Drawable_getBoundingBox(g)))
+        print(_osg.Group_addChild(group, g), _osg.Node_getNumParents(g), P.read_box(D.Drawable_getBoundingBox(g)),
+              _osg.Node_getOrCreateStateSet(g) == _osg.Node_getStateSet(g) != None)
         x, y, z, r = P.read_sphere(_osg.Node_getBound(group))
         print([round(v, 6) for v in (x, y, z, r - math.sqrt(6) / 2)])
         t.free(g)
         _osg.delete_Group(group)
         t.release_shared()
     """)
-    assert out == "True 1 (0.0, 0.0, 0.0, 1.0, 1.0, 2.0)\n[0.5, 0.5, 1.0, 0.0]\n"
+    assert out == "True 1 (0.0, 0.0, 0.0, 1.0, 1.0, 2.0) True\n[0.5, 0.5, 1.0, 0.0]\n"
 
 
 EMPTY, GEOMETRY, POINTS3 = D.new_Vec3Array(), D.new_Geometry(), D.new_Vec3Array(POINTS)
