@@ -22,16 +22,12 @@ VALUES = "std::vector< osg::Vec3f > const &"
 VECTORS = [_osg.new_Vec3f(*p) for p in POINTS]
 
 
-def sub(a, b):
-    return [x - y for x, y in zip(a, b)]
-
-
 def smoothed(points, triangles):
     """Vertex normals as OSG's smoothing sums them: face normals weighted by area, normalised."""
     sums = [[0.0] * 3 for _ in points]
     for i in range(0, len(triangles), 3):
         a, b, c = (points[j] for j in triangles[i:i + 3])
-        u, v = sub(b, a), sub(c, a)
+        u, v = [q - p for p, q in zip(a, b)], [q - p for p, q in zip(a, c)]
         n = [u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2], u[0] * v[1] - u[1] * v[0]]
         for j in triangles[i:i + 3]:
             sums[j] = [s + x for s, x in zip(sums[j], n)]
@@ -68,8 +64,7 @@ def free(*objects):
 def release_shared():
     """Releases the objects the tests share (no leak report at exit)."""
     free(EMPTY, GEOMETRY, POINTS3, ELEMENTS, ARRAYS)
-    for v in VECTORS:
-        _osg.delete_Vec3f(v)
+    list(map(_osg.delete_Vec3f, VECTORS))
 
 
 @pytest.fixture(scope="module", autouse=True)
