@@ -652,6 +652,7 @@ constexpr auto cxx_member() {
     else if constexpr (s == "__imul__") return Text("operator *=");
     else if constexpr (s == "__itruediv__") return Text("operator /=");
     else if constexpr (s == "__call__") return Text("operator ()");
+    else if constexpr (s == "__getitem__" || s == "__setitem__") return Text("operator []");
     else return Suffix;
 }
 
