@@ -8,11 +8,12 @@ import pytest
 BUILD_DIR = os.path.abspath(
     os.environ.get("OSG_BUILD_DIR") or os.path.join(os.path.dirname(__file__), os.pardir, "build"))
 sys.path.insert(0, BUILD_DIR)
+sys.path.append(os.path.join(os.path.dirname(__file__), os.pardir, "tools"))  # the fuzz harness
 
-# _osg first, so that in this process the shared type records are _osg's and the
-# sibling _osgpeer joins its ring. Load-order cases run in fresh interpreters.
+# _osg first, so that in this process the shared type records are _osg's and the siblings
+# join its ring. Load-order cases run in fresh interpreters.
 import _osg  # noqa: E402,F401
-import _osgpeer  # noqa: E402,F401
+import engine_support  # noqa: E402,F401
 
 
 @pytest.fixture

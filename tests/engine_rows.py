@@ -10,7 +10,9 @@ element pointers of a Matrixd and a Matrixf, L and K lists of Vec3f and Vec3d po
 bounding sphere, X a bounding box; for the render state A a Fog, and from the sibling module
 e a GLenum (GL_FOG), T a texture mode (GL_TEXTURE_2D), u an osg::Uniform::Type, z a
 std::string, a an osg::State, I an image and m a mode usage; for the camera Y a Camera, k a
-GLbitfield (colour and depth bits), U a texture, y a processor affinity and V a node visitor."""
+GLbitfield (colour and depth bits), U a texture, y a processor affinity and V a node visitor; for
+the scene graph (scene_rows) P a node path, W a value list, 1 a description list, 7 a geometry,
+8 a state set, 9 a clip plane and 0 a clip plane list."""
 from collections import namedtuple
 
 from engine_support import SIZE, VECTORS

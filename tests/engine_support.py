@@ -13,7 +13,13 @@ BUILD = os.environ.get("OSG_BUILD_DIR", os.path.join(HERE, "..", "build"))
 sys.path.insert(0, BUILD)
 
 import _osg  # noqa: E402
-import _osgpeer  # noqa: E402  (test-only sibling module sharing the type table: reads std::string)
+# The test-only sibling _osgpeer shows the runtime's internals; _osgvalues makes the values _osg
+# takes and registers their classes, so that _osg's value results free themselves. The peer's own
+# GLenum class (for load-order cases in fresh interpreters) is left out.
+os.environ["OSG_PEER_NO_HANDLE"] = "1"
+import _osgpeer  # noqa: E402
+del os.environ["OSG_PEER_NO_HANDLE"]
+import _osgvalues as V  # noqa: E402
 
 SwigPyObject = type(_osg.notify())
 VECTORS = ["Vec2f", "Vec3f", "Vec4f", "Vec2d", "Vec3d", "Vec4d"]
@@ -23,33 +29,38 @@ _DESTROY = {**{f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["
                                                                             "Plane"]},
             # No delete function: the object part is at the start, so a Referenced proxy of the
             # same address gives up the last reference.
-            **{f"osg::{c} *": lambda p: (p.disown(), free_borrowed(_osgpeer.new_pointer(int(p), "_p_osg__Referenced", 0)))
-               for c in ["RefMatrixd", "RefMatrixf"]},
+            **{f"osg::{c} *": lambda p: (p.disown(), free_borrowed(referenced(p))) for c in ["RefMatrixd", "RefMatrixf"]},
             **{f"osg::{c} *": _osg.delete_Referenced for c in ["Referenced", "DummyObject"]},
             "osg::StandardNotifyHandler *": _osg.delete_StandardNotifyHandler}
 _DESTROY.update({f"osg::{c} *": _osg.delete_Group for c in ["Group", "Geode", "Switch", "Transform", "MatrixTransform",
                                                              "PositionAttitudeTransform", "AutoTransform", "ClipNode"]})
 _DESTROY.update({"osg::Node *": _osg.delete_Referenced, "osgUtil::SmoothingVisitor *": _osg.delete_SmoothingVisitor})
-# Render state: attributes and state sets release one reference; textures and pairs only the
-# sibling module can free.
+# Render state: attributes and state sets release one reference; a texture and a camera, made at
+# count 0 with no destroy function of their own, are freed through their Referenced part.
 _DESTROY.update({f"osg::{c} *": _osg.delete_Referenced for c in ["StateSet", "Fog", "ColorMask", "ClipPlane", "Viewport"]})
-_DESTROY.update({"osg::Texture2D *": lambda p: (p.disown(), _osgpeer.free_texture(p)),
-                 "std::pair< enum osg::StateAttribute::Type,unsigned int > *":
-                     lambda p: (p.disown(), _osgpeer.free_type_member_pair(p))})
-# Camera: no destroy function of its own; the GLenum and GLbitfield results are heap copies.
-_DESTROY.update({"osg::Camera *": lambda p: (p.disown(), _osgpeer.free_camera(p)),
-                 "osg::CameraRenderOrderSortOp *": _osg.delete_CameraRenderOrderSortOp,
-                 **{f"{h} *": lambda p, h=h: _osgpeer.free_handle(p, f"_p_{h}") for h in ["GLenum", "GLbitfield"]}})
+_DESTROY.update({f"osg::{c} *": lambda p: (p.disown(), free_borrowed(referenced(p))) for c in ["Texture2D", "Camera"]})
+_DESTROY.update({"osg::CameraRenderOrderSortOp *": _osg.delete_CameraRenderOrderSortOp,
+                 "osg::Geometry *": _osg.delete_Referenced})
 
 
 def type_name(proxy):
-    return re.match(r"<Swig Object of type '([^']*)' at", repr(proxy)).group(1)
+    return re.match(r"<Swig Object of type '([^']*)' at", repr(getattr(proxy, "this", proxy))).group(1)
+
+
+def referenced(p):
+    """The object at p's address as an osg::Referenced: the counted classes here start with it."""
+    return V.pointer(int(getattr(p, "this", p)), "_p_osg__Referenced")
+
+
+def count(p):
+    return _osg.Referenced_referenceCount(referenced(p))
 
 
 def release(*proxies):
-    """Destroys what the pointer objects own: without registered classes nothing else does."""
+    """Destroys what the pointer objects own: without registered classes nothing else does
+    (the values of _osgvalues free themselves)."""
     for p in proxies:
-        if isinstance(p, SwigPyObject) and p.own():
+        if type(p).__name__ == "SwigPyObject" and p.own():  # _osgdraw's proxies have a type of their own
             _DESTROY[type_name(p)](p)
 
 
@@ -83,7 +94,23 @@ def mk():
 
 def at(pointer, element, n=1):
     """n elements of type element ('float' or 'double') behind an element pointer proxy."""
-    return list(((ctypes.c_float if element == "float" else ctypes.c_double) * n).from_address(int(pointer)))
+    address = int(getattr(pointer, "this", pointer))  # element pointers are _osgvalues' cells here
+    return list(((ctypes.c_float if element == "float" else ctypes.c_double) * n).from_address(address))
+
+
+def m16(matrix):
+    """The 16 numbers of a Matrixd, in OSG's row-vector layout."""
+    return V.elements(_osg.Matrixd_ptr(matrix), 16)
+
+
+def plain(v):
+    """A value read back by _osgvalues, with every object proxy as its address."""
+    if isinstance(v, (list, tuple)):
+        return type(v)(map(plain, v))
+    if isinstance(v, dict):
+        return {plain(k): plain(x) for k, x in v.items()}
+    this = getattr(v, "this", v)
+    return int(this) if type(this).__name__ == "SwigPyObject" else v  # each module has its own proxy type
 
 
 def values(proxy, kind):

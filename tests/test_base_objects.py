@@ -1,5 +1,5 @@
 """Referenced, Object and DummyObject: names, class names, mutexes, observers."""
-from engine_support import _osg, _osgpeer, free_borrowed, mk, type_name  # noqa: F401
+from engine_support import V, _osg, free_borrowed, mk, type_name  # noqa: F401
 
 
 def test_class_names_are_str_and_the_compound_name_an_owned_string(mk):
@@ -7,19 +7,17 @@ def test_class_names_are_str_and_the_compound_name_an_owned_string(mk):
     assert {_osg.Object_libraryName(d), _osg.DummyObject_libraryName(d)} == {"osg"}
     assert {_osg.Object_className(d), _osg.DummyObject_className(d)} == {"DummyObject"}
     compound = _osg.Object_getCompoundClassName(d)
-    assert (type_name(compound), compound.own(), _osgpeer.read_string(compound)) == \
-        ("std::string *", True, "osg::DummyObject")
-    compound.disown()  # std::string has no destroy function
+    assert (type_name(compound), compound.thisown, V.read(compound)) == ("std::string *", True, "osg::DummyObject")
 
 
 def test_get_name_aliases_the_objects_name(mk):
     d = mk.DummyObject()
     name = _osg.Object_getName(d)
-    assert (type_name(name), name.own(), _osgpeer.read_string(name)) == ("std::string *", False, "")
+    assert (type_name(name), name.thisown, V.read(name)) == ("std::string *", False, "")
     _osg.Object_setName(d, "renamed")
-    assert _osgpeer.read_string(name) == "renamed" and int(_osg.Object_getName(d)) == int(name)
+    assert V.read(name) == "renamed" and int(_osg.Object_getName(d).this) == int(name.this)
     copy = _osg.Object_clone(d, mk.CopyOp())
-    assert _osgpeer.read_string(_osg.Object_getName(copy)) == "renamed"
+    assert V.read(_osg.Object_getName(copy)) == "renamed"
     free_borrowed(copy)
 
 

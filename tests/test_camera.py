@@ -7,7 +7,8 @@ import math
 
 import pytest
 
-from engine_support import SwigPyObject, _osg, _osgpeer, at, free_borrowed, mk, raises, type_name, values  # noqa: F401
+from engine_support import SwigPyObject, V, _osg, _osgpeer, at, count, free_borrowed, m16, mk, plain, raises, type_name, \
+    values  # noqa: F401
 from test_dispatch import overload_message
 
 GL_COLOR_BUFFER_BIT, GL_DEPTH_BUFFER_BIT, GL_STENCIL_BUFFER_BIT = 0x4000, 0x0100, 0x0400
@@ -16,18 +17,19 @@ GL_BACK, GL_FRONT, GL_DEPTH_COMPONENT24 = 0x0405, 0x0404, 0x81A6
 
 def doubles(n):
     buffer = (ctypes.c_double * n)()
-    return buffer, [_osgpeer.new_pointer(ctypes.addressof(buffer) + 8 * i, "_p_double", 0) for i in range(n)]
+    return buffer, [V.pointer(ctypes.addressof(buffer) + 8 * i, "_p_double") for i in range(n)]
 
 
 def point(matrix, p):
     """p transformed by a matrix of OSG's row-vector layout."""
-    m = _osgpeer.read_matrix(matrix)
+    m = m16(matrix)
     return [sum(p[i] * m[4 * i + j] for i in range(3)) + m[12 + j] for j in range(3)]
 
 
-def count(camera):
-    """The reference count, read through the Referenced at the start of the object."""
-    return _osg.Referenced_referenceCount(_osgpeer.new_pointer(int(camera), "_p_osg__Referenced", 0))
+def attachments(camera_map):
+    """A camera's attachments: [(component, format, texture, image, level, face, mipmap, samples, colour samples,
+    width, height)], objects as addresses."""
+    return [(k, *v) for k, v in sorted(plain(V.read(camera_map)).items())]
 
 
 def test_view_and_projection(mk):
@@ -67,19 +69,18 @@ def test_view_and_projection(mk):
 
 def test_clear_values_viewport_and_masks(mk):
     cam = mk.Camera()
-    mask = mk(_osg.Camera_getClearMask(cam))
-    assert type(mask) is SwigPyObject and mask.own() and type_name(mask) == "GLbitfield *"
-    assert _osgpeer.glbitfield_value(mask) == GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT
-    _osg.Camera_setClearMask(cam, _osgpeer.make_glbitfield(GL_COLOR_BUFFER_BIT | GL_STENCIL_BUFFER_BIT))
-    fresh = mk(_osg.Camera_getClearMask(cam))
-    assert _osgpeer.glbitfield_value(fresh) == 0x4400 and _osgpeer.glbitfield_value(mask) == 0x4100  # a copy each time
-    _osg.Camera_setDrawBuffer(cam, _osgpeer.make_glenum(GL_BACK))
-    _osg.Camera_setReadBuffer(cam, _osgpeer.make_glenum(GL_FRONT))
-    # GLenum has the sibling's class registered, so the owned copy comes back as its instance.
+    # The sibling registered the handles' classes, so each owned copy comes back as its instance.
+    mask = _osg.Camera_getClearMask(cam)
+    assert type(mask) is V.GLbitfield and mask.this.own() and type_name(mask) == "GLbitfield *"
+    assert V.read(mask) == GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT
+    _osg.Camera_setClearMask(cam, V.glbitfield(GL_COLOR_BUFFER_BIT | GL_STENCIL_BUFFER_BIT))
+    fresh = _osg.Camera_getClearMask(cam)
+    assert V.read(fresh) == 0x4400 and V.read(mask) == 0x4100  # a copy each time
+    _osg.Camera_setDrawBuffer(cam, V.glenum(GL_BACK))
+    _osg.Camera_setReadBuffer(cam, V.glenum(GL_FRONT))
     draw, read = _osg.Camera_getDrawBuffer(cam), _osg.Camera_getReadBuffer(cam)
-    assert type(draw) is _osgpeer.PeerHandle and draw.this.own() and type_name(draw.this) == "GLenum *"
-    assert (_osgpeer.glenum_value(draw), _osgpeer.glenum_value(read)) == (GL_BACK, GL_FRONT)
-    mk(draw.this), mk(read.this)
+    assert type(draw) is V.GLenum and draw.this.own() and type_name(draw.this) == "GLenum *"
+    assert (V.read(draw), V.read(read)) == (GL_BACK, GL_FRONT)
     color = _osg.Camera_getClearColor(cam)
     _osg.Camera_setClearColor(cam, mk.Vec4f(0.25, 0.5, 0.75, 1))
     _osg.Camera_setClearAccum(cam, mk.Vec4f(1, 2, 3, 4))
@@ -118,33 +119,32 @@ def test_attachments_and_resize(mk):
     _osg.Camera_attach(cam, C0, texture)
     _osg.Camera_attach(cam, C1, texture, 2, 3, True, 4)
     _osg.Camera_attach(cam, C2, image, 8)
-    _osg.Camera_attach(cam, _osg.Camera_DEPTH_BUFFER, _osgpeer.make_glenum(GL_DEPTH_COMPONENT24))
-    assert _osgpeer.attachments(attached) == [
+    _osg.Camera_attach(cam, _osg.Camera_DEPTH_BUFFER, V.glenum(GL_DEPTH_COMPONENT24))
+    assert attachments(attached) == [
         (_osg.Camera_DEPTH_BUFFER, GL_DEPTH_COMPONENT24, None, None, 0, 0, False, 0, 0, 0, 0),
         (C0, 0, int(texture), None, 0, 0, False, 0, 0, 400, 300), (C1, 0, int(texture), None, 2, 3, True, 4, 0, 400, 300),
         (C2, 0, None, int(image), 0, 0, False, 8, 0, 400, 300)]
     assert _osg.Camera_isRenderToTextureCamera(cam) and not _osg.Camera_isRenderToTextureCamera(ref)
     _osg.Camera_detach(cam, _osg.Camera_DEPTH_BUFFER)
-    assert len(_osgpeer.attachments(attached)) == 3
+    assert len(attachments(attached)) == 3
     # Resizing keeps the vertical field of view: the projection becomes that of the wider aspect.
     for c in (cam, ref):
         _osg.Camera_setViewport(c, 0, 0, 400, 300)
         _osg.Camera_setProjectionMatrixAsPerspective(c, 45, 4 / 3, 1, 100)
     _osg.Camera_setProjectionResizePolicy(cam, _osg.Camera_HORIZONTAL)
-    before = _osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(cam))
+    before = m16(_osg.Camera_getProjectionMatrix(cam))
     modified = _osg.Camera_getAttachmentMapModifiedCount(cam)
     _osg.Camera_resize(cam, 800, 300)  # viewport and attachments, not the projection
-    assert [a[-2:] for a in _osgpeer.attachments(attached)] == [(800, 300)] * 3
+    assert [a[-2:] for a in attachments(attached)] == [(800, 300)] * 3
     assert at(_osg.Viewport_width(_osg.Camera_getViewport(cam)), "double") == [800]
-    assert _osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(cam)) == before
+    assert m16(_osg.Camera_getProjectionMatrix(cam)) == before
     assert _osg.Camera_getAttachmentMapModifiedCount(cam) == modified + 1
     _osg.Camera_resize(cam, 1600, 300, _osg.Camera_RESIZE_VIEWPORT | _osg.Camera_RESIZE_PROJECTIONMATRIX)
     _osg.Camera_setProjectionMatrixAsPerspective(ref, 45, 4 / 3 * 2, 1, 100)
-    assert _osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(cam)) == \
-        pytest.approx(_osgpeer.read_matrix(_osg.Camera_getProjectionMatrix(ref)))
-    assert [a[-2:] for a in _osgpeer.attachments(attached)] == [(800, 300)] * 3
+    assert m16(_osg.Camera_getProjectionMatrix(cam)) == pytest.approx(m16(_osg.Camera_getProjectionMatrix(ref)))
+    assert [a[-2:] for a in attachments(attached)] == [(800, 300)] * 3
     _osg.Camera_resizeAttachments(cam, 16, 8)
-    assert [a[-2:] for a in _osgpeer.attachments(attached)] == [(16, 8)] * 3
+    assert [a[-2:] for a in attachments(attached)] == [(16, 8)] * 3
 
 
 def test_render_order_and_sorting(mk):
@@ -182,7 +182,7 @@ def test_ownership(mk):
 def test_refusals(mk):
     # Never called: conversion stops at the camera. A real group would move the counts of the
     # platform library's reference stub, which another test expects untouched.
-    group = _osgpeer.new_pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Group", 0)
+    group = V.pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Group")
     cam, node = mk.Camera(), mk.Node()
     for f, args, text in [
             (_osg.Group_addChild, (group, cam), "argument 2 of type 'osg::Node *'"),
@@ -197,7 +197,7 @@ def test_refusals(mk):
              "argument 3 of type 'osg::Camera const *'"),
             (_osg.Camera_setDrawBuffer, (cam, GL_BACK), "argument 2 of type 'GLenum'"),
             (_osg.Camera_setClearMask, (cam, 0x4100), "argument 2 of type 'GLbitfield'"),
-            (_osg.Camera_setClearMask, (cam, _osgpeer.make_glenum(0x4100)), "argument 2 of type 'GLbitfield'"),
+            (_osg.Camera_setClearMask, (cam, V.glenum(0x4100)), "argument 2 of type 'GLbitfield'"),
             (_osg.Camera_setClearMask, (cam, None), "invalid null reference |argument 2 of type 'GLbitfield'"),
             (_osg.Camera_setClearColor, (cam, None), "invalid null reference |argument 2 of type 'osg::Vec4 const &'"),
             (_osg.Camera_setProcessorAffinity, (cam, "0"), "argument 2 of type 'OpenThreads::Affinity const &'")]:
@@ -212,7 +212,7 @@ def test_refusals(mk):
     for args in [(0, GL_DEPTH_COMPONENT24), (2**40, texture), (0, texture, 1, 1, 1)]:
         raises(TypeError, overload_message("Camera_attach"), _osg.Camera_attach, cam, *args)
     _osg.Camera_attach(cam, 0, None)  # None is a null texture, never a null GLenum
-    assert _osgpeer.attachments(_osg.Camera_getBufferAttachmentMap(cam)) == [(0, 0, None, None, 0, 0, False, 0, 0, 0, 0)]
+    assert attachments(_osg.Camera_getBufferAttachmentMap(cam)) == [(0, 0, None, None, 0, 0, False, 0, 0, 0, 0)]
     raises(OverflowError, "in method 'Camera_detach', argument 2 of type 'osg::Camera::BufferComponent'",
            _osg.Camera_detach, cam, 2**40)
     raises(TypeError, overload_message("Camera_setColorMask"), _osg.Camera_setColorMask, cam, 1, 1, 1, 1)

@@ -7,7 +7,7 @@ import re
 import pytest
 
 from all_rows import BY_NAME, DISPATCHERS
-from engine_support import _osg, _osgpeer, free_borrowed, mk, raises, type_name, values  # noqa: F401
+from engine_support import V, _osg, _osgpeer, free_borrowed, mk, raises, type_name, values  # noqa: F401
 
 
 def overload_message(name):
@@ -70,10 +70,10 @@ def test_vector_constructors(mk):
 def test_set_name_routes_str_none_and_string_proxies(mk):
     d, text = mk.DummyObject(), ctypes.create_string_buffer(b"from char *")
     chars = _osgpeer.new_pointer(ctypes.addressof(text), "_p_char", 0)
-    for name, expected in [("from str", "from str"), (_osgpeer.string_ptr(0, "from std::string"), "from std::string"),
+    for name, expected in [("from str", "from str"), (V.string("from std::string"), "from std::string"),
                            (chars, "from char *"), (None, "")]:  # None: a null C string, never a null std::string
         _osg.Object_setName(d, name)
-        assert _osgpeer.read_string(_osg.Object_getName(d)) == expected
+        assert V.read(_osg.Object_getName(d)) == expected
 
 
 def test_copyop_call_routing(mk):

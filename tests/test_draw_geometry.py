@@ -10,12 +10,11 @@ import pytest
 
 import _osg
 import _osgdraw as D
-import _osgpeer as P
-from engine_support import heap_bytes
+from engine_support import V, _osgpeer as P, count, heap_bytes
 
 GL_TRIANGLES, GL_FLOAT, GL_UNSIGNED_INT = 4, 0x1406, 0x1405
 rc = _osg.Referenced_referenceCount
-TRIANGLES_MODE, LINES_MODE = P.make_glenum(GL_TRIANGLES), P.make_glenum(1)   # the peer keeps them
+TRIANGLES_MODE, LINES_MODE = V.glenum(GL_TRIANGLES), V.glenum(1)
 # Two triangles folded along the edge p0-p1; the second is twice the area of the first.
 POINTS = [(0.0, 0.0, 0.0), (1.0, 0.0, 0.0), (0.0, 1.0, 0.0), (0.0, 0.0, 2.0)]
 TRIANGLES = [0, 1, 2, 1, 0, 3]
@@ -44,10 +43,9 @@ def mesh(points=POINTS):
 
 
 def enum(result):
-    """The value of an owned GLenum result, which is then freed."""
-    value = P.glenum_value(result)
-    P.free_handle(result, "_p_GLenum")
-    return value
+    """The value of an owned GLenum result, which frees itself."""
+    assert result.thisown
+    return V.read(result)
 
 
 def vec3(v):
@@ -127,12 +125,12 @@ def test_element_list_indices_modes_and_smoothing():
 def test_geometry_in_a_group_and_its_bound(run_py):
     # In a fresh interpreter: groups go through the SDK's library, whose call counts other tests read.
     out, _ = run_py("""
-        import math, _osg, _osgdraw as D, _osgpeer as P
+        import math, _osg, _osgdraw as D
         import test_draw_geometry as t
         g, group = t.mesh(), _osg.new_Group()
-        print(_osg.Group_addChild(group, g), _osg.Node_getNumParents(g), P.read_box(D.Drawable_getBoundingBox(g)),
+        print(_osg.Group_addChild(group, g), _osg.Node_getNumParents(g), t.V.read(D.Drawable_getBoundingBox(g)),
               _osg.Node_getOrCreateStateSet(g) == _osg.Node_getStateSet(g) != None)
-        x, y, z, r = P.read_sphere(_osg.Node_getBound(group))
+        (x, y, z), r = t.V.read(_osg.Node_getBound(group))
         print([round(v, 6) for v in (x, y, z, r - math.sqrt(6) / 2)])
         t.free(g)
         _osg.delete_Group(group)
@@ -222,14 +220,14 @@ def test_matrix_and_image_views():
     _osg.delete_Matrixd(m)
     _osg.delete_Matrixf(f)
     image = P.make_image(3, 2)               # RGBA, 8 bits a component
-    before = P.ref_count(image, "_p_osg__Image")
+    before = count(image)
     pixels = D.Image___buffer__(image, 0)
     assert (pixels.format, pixels.shape, pixels.strides) == ("B", (2, 3, 4), (12, 4, 1))
-    assert P.ref_count(image, "_p_osg__Image") == before + 1
+    assert count(image) == before + 1
     pixels[1, 2, 3] = 200
     assert D.Image___buffer__(image, 0)[1, 2, 3] == 200
     del pixels
-    assert P.ref_count(image, "_p_osg__Image") == before
+    assert count(image) == before
 
 
 def test_numpy_sees_arrays():

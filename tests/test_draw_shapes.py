@@ -16,14 +16,14 @@ import sys
 import pytest
 
 import test_leaks
-from engine_support import BUILD, _osg, _osgpeer, mk, raises, type_name, values  # noqa: F401 (mk)
+from engine_support import BUILD, V, _osg, m16, mk, raises, type_name, values  # noqa: F401 (mk)
 
 zog = ctypes.CDLL(os.path.join(BUILD, "libzogOSG.so"))
 zog.zog_stub_reference_calls.restype = zog.zog_stub_unreference_calls.restype = ctypes.c_ulong
 RGBA, RGB, LUMINANCE, ALPHA, UBYTE, FLOAT = 0x1908, 0x1907, 0x1909, 0x1906, 0x1401, 0x1406  # gl.h's values
 DESTROY = {"osg::LightSource *": _osg.delete_Group, "osg::Matrixd *": _osg.delete_Matrixd,
-           "osg::Vec4f *": _osg.delete_Vec4f, "GLenum *": lambda p: free_handle(p)}
-enum, get = _osgpeer.make_glenum, lambda cls, member, *a: getattr(d, f"{cls}_{member}")(*a)
+           "osg::Vec4f *": _osg.delete_Vec4f}
+enum, get = V.glenum, lambda cls, member, *a: getattr(d, f"{cls}_{member}")(*a)
 d = importlib.import_module("_osgdraw") if os.environ.get("OSG_DRAW_CASES") == "1" else None
 
 
@@ -34,20 +34,12 @@ def test_cases_in_a_fresh_interpreter():
     assert done.returncode == 0 and " passed" in done.stdout, done.stdout + done.stderr
 
 
-def free_handle(p):
-    """Frees a GLenum result. The peer joined the ring and, as the runtime's joiners do, takes no capsule
-    reference when it disowns: the object gives up ownership through its own module's type first."""
-    p = getattr(p, "this", p)
-    p.disown()
-    _osgpeer.free_handle(p, "_p_GLenum")
-
-
 @pytest.fixture
 def own():
     """own(proxy) holds a pointer object of this module (a proxy type of its own) until the test ends."""
     held = []
     yield lambda p: held.append(p) or p
-    for p in (getattr(p, "this", p) for p in held):  # the peer registers a class for GLenum
+    for p in (getattr(p, "this", p) for p in held if not isinstance(p, V.Value)):  # values free themselves
         if p.own():
             DESTROY.get(type_name(p), _osg.delete_Referenced)(p)
 
@@ -74,14 +66,14 @@ def case_shapes_read_back_and_tessellate_to_their_bounds(mk, own, cls, dims, rea
     d.ShapeDrawable_setColor(drawable, mk.Vec4f(0.25, 0.5, 0.75, 1))
     assert values(d.ShapeDrawable_getColor(drawable), "Vec4f") == [0.25, 0.5, 0.75, 1]
     _osg.Geode_addDrawable(geode, drawable)
-    assert _osgpeer.read_box(_osg.Geode_getBoundingBox(geode)) == box(extent)
+    assert V.read(_osg.Geode_getBoundingBox(geode)) == box(extent)
     if cls != "Sphere":  # a quarter turn about x takes y to z and z to -y, in the matrix and the rebuilt drawable
         get(cls, "setRotation", shape, mk.Quat(math.pi / 2, mk.Vec3d(1, 0, 0)))
         assert values(get(cls, "getRotation", shape), "Quat") == pytest.approx([math.sqrt(0.5), 0, 0, math.sqrt(0.5)])
-        assert _osgpeer.read_matrix(own(get(cls, "computeRotationMatrix", shape)))[4:7] == pytest.approx([0, 0, 1])
+        assert m16(own(get(cls, "computeRotationMatrix", shape)))[4:7] == pytest.approx([0, 0, 1])
         d.ShapeDrawable_build(drawable)
         x, y, z = extent
-        assert _osgpeer.read_box(_osg.Geode_getBoundingBox(geode)) == box([x, (-z[1], -z[0]), y])
+        assert V.read(_osg.Geode_getBoundingBox(geode)) == box([x, (-z[1], -z[0]), y])
 
 
 def case_tessellation_hints_shared_with_drawables(own):
@@ -141,7 +133,7 @@ def case_image_sizes(own, s, t, r, fmt, kind, packing, size):
     sizes = "s t r getPixelSizeInBits getRowSizeInBytes getImageSizeInBytes getTotalSizeInBytes".split()
     assert [get("Image", m, image) for m in sizes] == [s, t, r, 8 * size, row, row * t, row * t * r]
     got = [own(d.Image_getPixelFormat(image)), own(d.Image_getDataType(image))]
-    assert [g.this.own() for g in got] == [True, True] and [_osgpeer.glenum_value(g) for g in got] == [fmt, kind]
+    assert [g.this.own() for g in got] == [True, True] and [V.read(g) for g in got] == [fmt, kind]
     assert [getattr(d, f"GL_{n}") for n in "RGBA RGB LUMINANCE ALPHA UNSIGNED_BYTE FLOAT".split()] == [
         RGBA, RGB, LUMINANCE, ALPHA, UBYTE, FLOAT]
 
@@ -160,8 +152,8 @@ def case_image_pixels_flip_and_scale(mk, own):
     d.Image_dirty(image)
     assert (opaque, d.Image_isImageTranslucent(image), d.Image_getModifiedCount(image)) == (False, True, count + 1)
     d.Image_scaleImage(image, 4, 8, 1)
-    d.Image_setFileName(image, _osgpeer.make_string("bricks.png"))
-    assert (d.Image_s(image), d.Image_t(image), _osgpeer.read_string(d.Image_getFileName(image))) == (4, 8, "bricks.png")
+    d.Image_setFileName(image, V.string("bricks.png"))
+    assert (d.Image_s(image), d.Image_t(image), V.read(d.Image_getFileName(image))) == (4, 8, "bricks.png")
 
 
 def case_refusals(own):
@@ -185,7 +177,7 @@ def case_repeated_calls_leak_nothing(mk, own):
     capsule = sys.modules["swig_runtime_data4"].type_pointer_capsule
     calls = [lambda: _osg.delete_Referenced(d.new_ShapeDrawable(shape, hints)),
              lambda: _osg.delete_Group(d.new_LightSource()), lambda: d.Cone_getCenter(shape),
-             lambda: free_handle(d.Image_getPixelFormat(image)),
+             lambda: d.Image_getPixelFormat(image),
              lambda: d.Image_allocateImage(image, 3, 3, 1, rgba, ubyte), lambda: d.Light_setAmbient(light, v4),
              lambda: _osg.StateSet_setAttributeAndModes(ss, light),
              lambda: _osg.delete_Matrixd(d.Cone_computeRotationMatrix(shape))]

@@ -4,7 +4,7 @@ import math
 
 import pytest
 
-from engine_support import _osg, _osgpeer, at, mk, raises, type_name, values  # noqa: F401
+from engine_support import V, _osg, _osgpeer, at, mk, raises, type_name, values  # noqa: F401
 
 approx = pytest.approx
 
@@ -147,7 +147,7 @@ def test_ref_matrices(mk):
     seq = [float(i) for i in range(16)]
     r = mk.RefMatrixd(*seq)
     # Accepted as its matrix part, which does not start at the object's address.
-    assert values(mk(_osg.Matrixd_getTrans(r)), "Vec3d") == [12, 13, 14] and int(_osg.Matrixd_ptr(r)) != int(r)
+    assert values(mk(_osg.Matrixd_getTrans(r)), "Vec3d") == [12, 13, 14] and int(_osg.Matrixd_ptr(r).this) != int(r)
     for refused in (_osg.Object_getName, _osg.Referenced_referenceCount):
         with pytest.raises(TypeError):
             refused(r)
@@ -176,8 +176,8 @@ def test_planes(mk):
     _osg.Plane_makeUnitLength(by_normal)
     assert _osg.Plane_distance(by_normal, mk.Vec3d(5, 5, 7)) == 5.0 and _osg.Plane_distance(by_normal, mk.Vec3f()) == -2
     assert [_osg.Plane_intersect(by_normal, x) for x in (
-        _osgpeer.points(False, [0, 0, 3, 1, 1, 4]), _osgpeer.points(True, [0, 0, 0, 0, 0, 5]),
-        _osgpeer.bounding_sphere(0, 0, 0, 1), _osgpeer.bounding_box(0, 0, 3, 1, 1, 4))] == [1, 0, -1, 1]
+        V.vec3f_list([(0, 0, 3), (1, 1, 4)]), V.vec3d_list([(0, 0, 0), (0, 0, 5)]), V.bounding_sphere(0, 0, 0, 1),
+        V.bounding_box(0, 0, 3, 1, 1, 4))] == [1, 0, -1, 1]
     raises(TypeError, "invalid null reference in method 'Plane_transform', argument 2 of type 'osg::Matrix const &'",
            _osg.Plane_transform, by_normal, None)
     shifted = mk.Plane(by_normal)

@@ -58,10 +58,10 @@ def test_slerp_rotate_original_and_storage(mk):
     assert _osg.Quat_slerp(q, 0.5, mk.Quat(), end) is None
     half = [0, 0, math.sin(math.pi / 8), math.cos(math.pi / 8)]
     assert values(q, "Quat") == pytest.approx(half)
-    base = int(_osg.Quat__v_get(q))
+    base = int(_osg.Quat__v_get(q).this)
     for i, c in enumerate("xyzw"):
         p = getattr(_osg, f"Quat_{c}")(q)
-        assert (type_name(p), p.own(), int(p), at(p, "double")) == ("double *", False, base + 8 * i,
+        assert (type_name(p), p.thisown, int(p.this), at(p, "double")) == ("double *", False, base + 8 * i,
                                                                      pytest.approx([half[i]]))
     copy = mk.Quat()
     assert _osg.Quat__v_set(copy, _osg.Quat__v_get(q)) is None and values(copy, "Quat") == values(q, "Quat")

@@ -1,14 +1,14 @@
 """Scene graph: small real scenes: parents, world matrices, ownership and reference counts,
-switches, clip boxes, smoothing of a real mesh; and every function's leak test."""
+switches, clip boxes, smoothing of a real mesh (its functions' leak tests are test_leaks')."""
 import ctypes
 import math
 import os
 
 import pytest
 
-import test_leaks
-from engine_support import BUILD, _osg, _osgpeer, free_borrowed, mk, raises, type_name  # noqa: F401 (mk)
-from scene_rows import BY_NAME, NODES
+from engine_support import BUILD, V, _osg, _osgpeer, free_borrowed, m16, mk, plain, raises, type_name  # noqa: F401 (mk)
+from test_draw_geometry import D, mesh
+from scene_rows import NODES
 from test_dispatch import overload_message
 
 zog = ctypes.CDLL(os.path.join(BUILD, "libzogOSG.so"))
@@ -30,30 +30,18 @@ def made():
         _osg.delete_Group(p)
 
 
-MATRIX, MATRICES, PATHS = "_p_osg__Matrixd", "_p_std__vectorT_osg__Matrixd_t", "_p_std__vectorT_std__vectorT_osg__Node_p_t_t"
-
-
-@pytest.fixture
-def owned():
-    """owned(proxy, descriptor) holds a by-value result that _osg has no destroy function for."""
-    held = []
-    yield lambda p, name=MATRIX: held.append((p, name)) or p
-    for p, name in held:
-        _osgpeer.release(p, name)
-
-
 def camera():
-    return _osgpeer.new_pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Camera", 0)
+    return V.pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Camera")
 
 
 def point(matrix, p):
     """p transformed by a matrix of OSG's row-vector layout."""
-    m = _osgpeer.read_matrix(matrix)
+    m = m16(matrix)
     return [sum(p[i] * m[4 * i + j] for i in range(3)) + m[12 + j] for j in range(3)]
 
 
-def translate(x, y, z):
-    return _osgpeer.matrix(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, x, y, z, 1)
+def translate(x, y, z, mk):
+    return mk(_osg.new_Matrixd(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, x, y, z, 1))
 
 
 @pytest.fixture
@@ -66,18 +54,18 @@ def scene(made, mk):
     parents = _osg.Node_getParents(leaf)  # taken before the change: it shows the node's own list
     for parent, child in [(root, mt), (mt, pat), (pat, leaf), (root, sw), (sw, clip)]:
         assert _osg.Group_addChild(parent, child) is True
-    _osg.MatrixTransform_setMatrix(mt, translate(10, 20, 30))
+    _osg.MatrixTransform_setMatrix(mt, translate(10, 20, 30, mk))
     _osg.PositionAttitudeTransform_setPosition(pat, mk.Vec3d(1, 2, 3))
     _osg.PositionAttitudeTransform_setAttitude(pat, mk.Quat(math.pi / 2, mk.Vec3d(0, 0, 1)))
     _osg.PositionAttitudeTransform_setScale(pat, mk.Vec3d(2, 2, 2))
-    _osg.ClipNode_createClipBox(clip, _osgpeer.bounding_box(-1, -1, -1, 1, 1, 1))
+    _osg.ClipNode_createClipBox(clip, V.bounding_box(-1, -1, -1, 1, 1, 1))
     return dict(root=root, mt=mt, pat=pat, leaf=leaf, sw=sw, clip=clip, parents=parents)
 
 
-def test_parents_and_children(scene, owned):
+def test_parents_and_children(scene):
     root, mt, pat, leaf, sw = (scene[k] for k in ["root", "mt", "pat", "leaf", "sw"])
-    assert _osgpeer.read_list(scene["parents"], "_p_std__vectorT_osg__Group_p_t") == [int(pat)]
-    assert not scene["parents"].own() and int(_osg.Node_getParent(leaf, 0)) == int(pat)
+    assert plain(V.read(scene["parents"])) == [int(pat)]
+    assert not scene["parents"].thisown and int(_osg.Node_getParent(leaf, 0)) == int(pat)
     assert [int(_osg.Group_getChild(root, i)) for i in range(_osg.Group_getNumChildren(root))] == [int(mt), int(sw)]
     assert _osg.Group_getChildIndex(root, sw) == 1 and _osg.Group_getChildIndex(root, leaf) == 2  # not a child
     assert _osg.Group_containsNode(root, mt) and not _osg.Group_containsNode(root, leaf)
@@ -88,28 +76,27 @@ def test_parents_and_children(scene, owned):
     assert _osg.Group_removeChild(root, 2, 2) and _osg.Group_getNumChildren(root) == 2
     assert _osg.Group_removeChild(root, leaf) is False and _osg.Group_addChild(root, None) is False
     assert [_osg.Referenced_referenceCount(n) for n in extra] == [1, 1, 1]  # the group dropped its own
-    paths, also = owned(_osg.Node_getParentalNodePaths(leaf), PATHS), owned(_osg.Node_getParentalNodePaths(leaf, None), PATHS)
-    assert paths.own() and also.own()
-    assert _osgpeer.read_list(paths, "_p_std__vectorT_std__vectorT_osg__Node_p_t_t") == [[int(root), int(mt),
-                                                                                           int(pat), int(leaf)]]
+    paths, also = _osg.Node_getParentalNodePaths(leaf), _osg.Node_getParentalNodePaths(leaf, None)
+    assert paths.thisown and also.thisown
+    assert plain(V.read(paths)) == plain(V.read(also)) == [[int(root), int(mt), int(pat), int(leaf)]]
     for n in extra:
         _osg.delete_Referenced(n)
 
 
-def test_world_matrices_of_a_node_path(scene, owned):
+def test_world_matrices_of_a_node_path(scene, mk):
     root, mt, pat, leaf = (scene[k] for k in ["root", "mt", "pat", "leaf"])
-    path = _osgpeer.node_path([root, mt, pat, leaf])
-    world = owned(_osg.computeLocalToWorld(path))
+    path = V.node_path([root, mt, pat, leaf])
+    world = mk(_osg.computeLocalToWorld(path))
     assert world.own()
     assert point(world, [1, 0, 0]) == pytest.approx([11, 24, 33])  # scale, turn, move, then translate
-    assert _osgpeer.read_matrix(world) == _osgpeer.read_matrix(owned(_osg.computeLocalToWorld(path, True)))
-    assert point(owned(_osg.computeWorldToLocal(path)), [11, 24, 33]) == pytest.approx([1, 0, 0])
-    (only,) = _osgpeer.read_list(owned(_osg.Node_getWorldMatrices(leaf), MATRICES), "_p_std__vectorT_osg__Matrixd_t")
-    assert only == pytest.approx(_osgpeer.read_matrix(world))
-    view = translate(0, 0, -5)
-    assert point(owned(_osg.computeLocalToEye(view, path)), [1, 0, 0]) == pytest.approx([11, 24, 28])
-    assert point(owned(_osg.computeEyeToLocal(view, path, False)), [11, 24, 28]) == pytest.approx([1, 0, 0])
-    in_out = translate(0, 0, 0)
+    assert m16(world) == m16(mk(_osg.computeLocalToWorld(path, True)))
+    assert point(mk(_osg.computeWorldToLocal(path)), [11, 24, 33]) == pytest.approx([1, 0, 0])
+    (only,) = map(mk, V.read(_osg.Node_getWorldMatrices(leaf)))
+    assert m16(only) == pytest.approx(m16(world))
+    view = translate(0, 0, -5, mk)
+    assert point(mk(_osg.computeLocalToEye(view, path)), [1, 0, 0]) == pytest.approx([11, 24, 28])
+    assert point(mk(_osg.computeEyeToLocal(view, path, False)), [11, 24, 28]) == pytest.approx([1, 0, 0])
+    in_out = translate(0, 0, 0, mk)
     assert _osg.Transform_computeLocalToWorldMatrix(mt, in_out, None) is True
     assert point(in_out, [0, 0, 0]) == [10, 20, 30]
     raises(TypeError, "invalid null reference in method 'MatrixTransform_computeWorldToLocalMatrix', argument 2 of "
@@ -119,13 +106,13 @@ def test_world_matrices_of_a_node_path(scene, owned):
     raises(TypeError, overload_message("computeLocalToWorld"), _osg.computeLocalToWorld, [root, mt])
     raises(TypeError, overload_message("computeLocalToWorld"), _osg.computeLocalToWorld, path, 1)
     held = _osg.MatrixTransform_getMatrix(mt)
-    _osg.MatrixTransform_postMult(mt, translate(1, 1, 1))
+    _osg.MatrixTransform_postMult(mt, translate(1, 1, 1, mk))
     assert point(held, [0, 0, 0]) == [11, 21, 31] and not held.own()  # the node's own matrix
     assert point(_osg.MatrixTransform_getInverseMatrix(mt), [11, 21, 31]) == [0, 0, 0]
 
 
 def test_transform_accessors(made, mk):
-    at, mt = made(_osg.new_AutoTransform()), made(_osg.new_MatrixTransform(translate(4, 5, 6)))
+    at, mt = made(_osg.new_AutoTransform()), made(_osg.new_MatrixTransform(translate(4, 5, 6, mk)))
     assert point(_osg.MatrixTransform_getMatrix(mt), [0, 0, 0]) == [4, 5, 6]
     assert _osg.Transform_asAutoTransform(mt) is None
     assert int(_osg.Transform_asAutoTransform(at)) == int(at) and int(_osg.Transform_asMatrixTransform(mt)) == int(mt)
@@ -206,15 +193,14 @@ def test_node_values(made, mk):
     raises(TypeError, "invalid null reference in method 'Node_setDescriptions', argument 2 of type "
            "'osg::Node::DescriptionList const &'", _osg.Node_setDescriptions, n, None)
     held = _osg.Node_getDescriptions(n)
-    _osg.Node_setDescriptions(n, _osgpeer.descriptions(["first", "second"]))
-    _osg.Node_addDescription(n, _osgpeer.string_ptr(3, "third"))
-    assert _osgpeer.read_list(held, "_p_std__vectorT_std__string_t") == ["first", "second", "third"]
-    assert _osgpeer.read_string(_osg.Node_getDescription(n, 2)) == "third" and _osg.Node_getNumDescriptions(n) == 3
+    _osg.Node_setDescriptions(n, V.description_list(["first", "second"]))
+    _osg.Node_addDescription(n, V.string("third"))
+    assert V.read(held) == ["first", "second", "third"]
+    assert V.read(_osg.Node_getDescription(n, 2)) == "third" and _osg.Node_getNumDescriptions(n) == 3
     state = _osg.Node_getOrCreateStateSet(n)
     assert int(_osg.Node_getStateSet(n)) == int(state) and not state.own()
-    _osg.Node_setInitialBound(n, _osgpeer.bounding_sphere(1, 2, 3, 4))
-    assert _osgpeer.read_sphere(_osg.Node_getBound(n)) == (1, 2, 3, 4)
-    assert _osgpeer.read_sphere(_osg.Node_getInitialBound(n)) == (1, 2, 3, 4)
+    _osg.Node_setInitialBound(n, V.bounding_sphere(1, 2, 3, 4))
+    assert V.read(_osg.Node_getBound(n)) == V.read(_osg.Node_getInitialBound(n)) == ((1, 2, 3), 4)
     clone = _osg.Group_clone(g, mk.CopyOp())
     assert (type_name(clone), clone.own(), _osg.Referenced_referenceCount(clone)) == ("osg::Object *", False, 0)
     assert _osg.Object_className(clone) == "Group" and _osg.Group_isSameKindAs(g, clone)
@@ -229,24 +215,24 @@ def test_switch_values(made):
     values = _osg.Switch_getValueList(s)
     raises(TypeError, overload_message("Switch_addChild"), _osg.Switch_addChild, s, a, 1)
     assert _osg.Switch_addChild(s, a, False) and _osg.Switch_addChild(s, b)
-    assert _osgpeer.read_list(values, "_p_std__vectorT_bool_t") == [False, True]
+    assert V.read(values) == [False, True]
     assert _osg.Switch_setSingleChildOn(s, 0) and (_osg.Switch_getValue(s, 0), _osg.Switch_getChildValue(s, b)) == (True, False)
-    _osg.Switch_setValueList(s, _osgpeer.value_list([False, True]))
-    assert _osgpeer.read_list(values, "_p_std__vectorT_bool_t") == [False, True]
+    _osg.Switch_setValueList(s, V.value_list([False, True]))
+    assert V.read(values) == [False, True]
     raises(TypeError, "invalid null reference in method 'Switch_setValueList', argument 2 of type "
            "'osg::Switch::ValueList const &'", _osg.Switch_setValueList, s, None)
-    assert _osg.Group_removeChild(s, 0) and _osgpeer.read_list(values, "_p_std__vectorT_bool_t") == [True]
+    assert _osg.Group_removeChild(s, 0) and V.read(values) == [True]
 
 
 def test_clip_box(scene, made):
     clip = scene["clip"]
     planes = _osg.ClipNode_getClipPlaneList(clip)
-    assert _osg.ClipNode_getNumClipPlanes(clip) == 6 and not planes.own()
+    assert _osg.ClipNode_getNumClipPlanes(clip) == 6 and not planes.thisown
     first = _osg.ClipNode_getClipPlane(clip, 0)
     assert _osgpeer.convert_form(first, "_p_osg__ClipPlane", "plain")[0] == 0  # only a plane converts
     _osg.intrusive_ptr_add_ref(first)  # the node's list holds the only other reference
     assert _osg.ClipNode_removeClipPlane(clip, first) and _osg.ClipNode_removeClipPlane(clip, 4)
-    assert len(_osgpeer.read_list(planes, "_p_std__vectorT_ref_ptrT_osg__ClipPlane_t_t")) == 4
+    assert len(V.read(planes)) == 4
     other = made(_osg.new_ClipNode())
     _osg.ClipNode_setClipPlaneList(other, planes)
     assert _osg.ClipNode_getNumClipPlanes(other) == 4 and _osg.ClipNode_addClipPlane(other, first)
@@ -256,23 +242,24 @@ def test_clip_box(scene, made):
 
 
 # Two right triangles folded 90 degrees along their shared edge from (0, 0, 0) to (1, 0, 0).
-FOLD = [(0, 0, 0), (1, 0, 0), (0, 1, 0), (0, 0, 1)], [0, 1, 2, 1, 0, 3]
+FOLD = [(0, 0, 0), (1, 0, 0), (0, 1, 0), (0, 0, 1)]
 UP, SIDE, HALF = (0, 0, 1), (0, 1, 0), (0, math.sqrt(0.5), math.sqrt(0.5))
 
 
 def corner_normals(geometry):
     """The normal at each triangle corner, flat."""
-    vertices, normals, corners = _osgpeer.mesh(geometry)
-    return [c for i in corners for c in normals[i]]
+    normals = D.Array___buffer__(D.Geometry_getNormalArray(geometry), 0).tolist()
+    sets = [D.Geometry_getPrimitiveSet(geometry, i) for i in range(D.Geometry_getNumPrimitiveSets(geometry))]
+    return [c for p in sets for i in range(D.PrimitiveSet_getNumIndices(p)) for c in normals[D.PrimitiveSet_index(p, i)]]
 
 
 def flat(*normals):
     return pytest.approx([c for n in normals for c in n])
 
 
-def test_smoothing_a_folded_mesh(made):
+def test_smoothing_a_folded_mesh(made, mk):
     def smoothed(*angle):
-        g = _osgpeer.geometry(*FOLD)
+        g = mk(mesh(FOLD))
         assert _osg.SmoothingVisitor_smooth(g, *angle) is None
         return corner_normals(g)
     # Every edge smoothed: the corners on the shared edge take the mean of both faces.
@@ -282,68 +269,18 @@ def test_smoothing_a_folded_mesh(made):
     visitor = _osg.new_SmoothingVisitor()
     assert _osg.SmoothingVisitor_getCreaseAngle(visitor) == math.pi
     _osg.SmoothingVisitor_setCreaseAngle(visitor, 0.5)
-    g = _osgpeer.geometry(*FOLD)
+    g = mk(mesh(FOLD))
     _osg.SmoothingVisitor_apply(visitor, g)
     assert corner_normals(g) == flat(UP, UP, UP, SIDE, SIDE, SIDE)
     # Run over a subgraph: the visitor reaches the geode's geometry.
-    geode, g = made(_osg.new_Geode()), _osgpeer.geometry(*FOLD)
-    assert _osg.Geode_addDrawable(geode, _osgpeer.as_drawable(g)) and _osg.Geode_getNumDrawables(geode) == 1
+    geode, g = made(_osg.new_Geode()), mk(mesh(FOLD))
+    assert _osg.Geode_addDrawable(geode, g) and _osg.Geode_getNumDrawables(geode) == 1
     _osg.SmoothingVisitor_setCreaseAngle(visitor, math.pi)
     _osg.Node_accept(geode, visitor)
     assert corner_normals(g) == flat(HALF, HALF, UP, HALF, HALF, SIDE)
-    assert _osgpeer.read_box(_osg.Geode_getBoundingBox(geode)) == (0, 0, 0, 1, 1, 1)
-    center = _osgpeer.read_sphere(_osg.Node_getBound(geode))
-    assert center[:3] == (0.5, 0.5, 0.5) and center[3] == pytest.approx(math.sqrt(0.75))
+    assert V.read(_osg.Geode_getBoundingBox(geode)) == (0, 0, 0, 1, 1, 1)
+    center, radius = V.read(_osg.Node_getBound(geode))
+    assert center == (0.5, 0.5, 0.5) and radius == pytest.approx(math.sqrt(0.75))
     raises(TypeError, overload_message("SmoothingVisitor_smooth"), _osg.SmoothingVisitor_smooth, None)
     _osg.delete_SmoothingVisitor(visitor)
     assert not visitor.own()
-
-
-# ---- repeated calls leak nothing ------------------------------------------------------------
-
-# Calls that grow a list each time (or need a render info no module makes) have no good call here.
-GROWING = {"Node_addDescription", "ClipNode_createClipBox", "Geode_compileDrawables"}
-OWNED_RESULTS = {"osg::Matrixd": MATRIX, "std::vector< osg::Matrixd >": MATRICES,
-                 "std::vector< std::vector< osg::Node * > >": PATHS}
-
-
-def settle(name, result):
-    if name.endswith(("_clone", "_cloneType")):
-        free_borrowed(result)
-    elif name == "new_SmoothingVisitor":
-        _osg.delete_SmoothingVisitor(result)
-    elif name == "new_Node":
-        _osg.delete_Referenced(result)
-    elif name.startswith("new_"):
-        _osg.delete_Group(result)
-    elif isinstance(result, type(_osg.notify())) and result.own():
-        _osgpeer.release(result, OWNED_RESULTS[type_name(result)[:-2]])
-
-
-@pytest.mark.parametrize("row", [r for r in BY_NAME.values() if r.name not in GROWING], ids=lambda r: r.name)
-def test_repeated_calls_leak_nothing(made, mk, row):
-    cls = row.cls or "Group"
-    self = mk(getattr(_osg, f"new_{cls}")())
-    box, geometry = _osgpeer.bounding_box(0, 0, 0, 1, 1, 1), _osgpeer.geometry(*FOLD)
-    clip = made(_osg.new_ClipNode())
-    _osg.ClipNode_createClipBox(clip, box)
-    args = {"S": self, "s": self, "v": self, "i": 0, "x": 1.0, "b": True, "n": None, "V": mk(_osg.new_SmoothingVisitor()),
-            "C": mk.CopyOp(), "o": mk.DummyObject(), "M": _osgpeer.matrix(*[1.0] * 16), "P": _osgpeer.node_path([clip]),
-            "B": box, "E": _osgpeer.bounding_sphere(0, 0, 0, 1), "L": _osgpeer.descriptions(["a"]),
-            "W": _osgpeer.value_list([]), "t": _osgpeer.string_ptr(2, "d"), "G": geometry, "3": mk.Vec3d(1, 1, 1),
-            "f": mk.Vec3f(1, 1, 1), "q": mk.Quat(), "T": _osg.Node_getOrCreateStateSet(clip),
-            "p": _osg.ClipNode_getClipPlane(clip, 0), "K": _osg.ClipNode_getClipPlaneList(clip)}
-    f, calls = getattr(_osg, row.name), []
-    for codes in [row.codes] if hasattr(row, "codes") else row.goods:
-        def call(codes=codes):
-            fresh = (_osg.new_SmoothingVisitor if cls == "SmoothingVisitor" else _osg.new_Group)() if "D" in codes else None
-            settle(row.name, f(*[fresh if c == "D" else args[c] for c in codes]))
-        calls.append(call)
-    test_leaks.flat(calls, [a for a in args.values() if a is not None])
-    bad, n = object(), len(row.codes) if hasattr(row, "codes") else 2
-
-    def bad_call(shape):
-        with pytest.raises(TypeError):
-            f(*shape)
-    shapes = [(bad,) * (n + 1)] + ([(bad,) * n] if n else []) + ([(self,) + (bad,) * (n - 1)] if n >= 2 else [])
-    test_leaks.flat([lambda s=s: bad_call(s) for s in shapes], [self])

@@ -54,13 +54,13 @@ def test_cross_product(mk, kind):
 def test_accessors_are_pointers_into_the_vector(mk, kind):
     n, element = SIZE[kind], ELEMENT[kind]
     v = mk(getattr(_osg, f"new_{kind}")(*range(1, n + 1)))
-    base, step = int(getattr(_osg, f"{kind}__v_get")(v)), 4 if element == "float" else 8
+    base, step = int(getattr(_osg, f"{kind}__v_get")(v).this), 4 if element == "float" else 8
     for i, c in enumerate("xyzw"[:n] + ("rgba" if n == 4 else "")):
         p = getattr(_osg, f"{kind}_{c}")(v)
-        assert (type_name(p), p.own(), at(p, element)) == (f"{element} *", False, [i % 4 + 1])
-        assert int(p) == base + i % 4 * step
+        assert (type_name(p), p.thisown, at(p, element)) == (f"{element} *", False, [i % 4 + 1])
+        assert int(p.this) == base + i % 4 * step
     ptr = getattr(_osg, f"{kind}_ptr")(v)
-    assert (type_name(ptr), int(ptr), at(ptr, element, n)) == (f"{element} *", base, values(v, kind))
+    assert (type_name(ptr), int(ptr.this), at(ptr, element, n)) == (f"{element} *", base, values(v, kind))
 
 
 @pytest.mark.parametrize("kind", VECTORS)

@@ -49,16 +49,6 @@ def test_fixed_arity_count_messages(row):
             raises(TypeError, f"{row.name} expected {n} arguments, got {count}", f, *[object()] * count)
 
 
-@pytest.mark.parametrize("row", by_arity(lambda n: n < 2), ids=lambda r: r.name)
-def test_one_and_no_argument_calling_conventions(row):
-    f = getattr(_osg, row.name)
-    if row.codes:  # METH_O, even for operators: the interpreter checks the count
-        for count in (0, 2):
-            raises(TypeError, f"_osg.{row.name}() takes exactly one argument ({count} given)", f, *[object()] * count)
-    else:  # METH_NOARGS
-        raises(TypeError, f"_osg.{row.name}() takes no arguments (1 given)", f, 1)
-
-
 # (function, self, argument 2, exception, message): D DummyObject, V Vec3f, W Vec3d, Q Quat, C CopyOp, R Referenced.
 CASES = [
     ("Referenced_setThreadSafeRefUnref", "R", 1, TypeError, "argument 2 of type 'bool'"),

@@ -2,17 +2,18 @@
 or raises a Python exception; hard crashes and hangs are caught by running the calls in
 chunks in child interpreters and replayed to a one-line reproducer.
 
-    python3 tests/fuzz.py [N] [--seed S] [--chunk C]     (or ./run fuzz [N])
-    python3 tests/fuzz.py --leaks     the leak tests with 10**4 calls a row (./run fuzz --leaks)
+    python3 tools/fuzz.py [N] [--seed S] [--chunk C]     (or ./run fuzz [N])
+    python3 tools/fuzz.py --leaks     the leak tests with 10**4 calls a row (./run fuzz --leaks)
 
 The functions come from dir(_osg); a probe in a child interpreter learns each one's argument
 counts and types from its own messages (count messages, "argument k of type 'T'", overload
 prototypes), without running it. Arguments are numbers at the edges of every integer range,
 floats with nan and inf, booleans, strings, bytes, None, tuples, lists, plain objects and
 classes, objects whose `this` is wrong, refers to itself or raises, and fresh proxies of every
-class the module or its sibling makes, bare or behind a `this`. Every argument is made afresh
-for its call; nothing is ever destroyed by a destroy function, as no class is registered with
-one. Registration hooks are called too, so registered classes also take part.
+class the module or its siblings make, bare or behind a `this`. Every argument is made afresh
+for its call; only the values of _osgvalues (whose classes it registers) are destroyed by a
+destroy function, after their call. Registration hooks are called too, so registered classes
+also take part.
 
 Hazards kept on purpose, which the harness never produces:
 - None as argument 1 (the object itself: the member runs on a null object).
@@ -38,6 +39,7 @@ import time
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 BUILD = os.environ.get("OSG_BUILD_DIR") or os.path.join(HERE, os.pardir, "build")
+TESTS = os.path.join(HERE, os.pardir, "tests")
 
 # None reaches OSG, which dereferences it: (function, 1-based argument).
 NULL_DEREF = {("NotifyHandler_notify", 3), ("StandardNotifyHandler_notify", 3), ("Referenced_addObserver", 2),
@@ -72,14 +74,19 @@ OTHERS = ["None", "b''", "b'abc'", "()", "(1, 2.0)", "[]", "[1.0, 2.0, 3.0]", "{
           "type('T', (), {'this': 5})()", "type('T', (), {'this': object()})()",
           "type('T', (), {'this': property(lambda s: 1 / 0)})()",
           "(lambda o: setattr(o, 'this', o) or o)(type('T', (), {})())"]
-GEOMETRY = "_osgpeer.geometry(((0, 0, 0), (1, 0, 0), (0, 1, 0)), (0, 1, 2))"
-PEER = [GEOMETRY, f"_osgpeer.as_drawable({GEOMETRY})", "_osgpeer.node_path([])",
-        "_osgpeer.node_path([_osg.new_Group(), _osg.new_MatrixTransform()])", "_osgpeer.bounding_box(0, 0, 0, 1, 1, 1)",
-        "_osgpeer.bounding_sphere(0, 0, 0, 1)", "_osgpeer.descriptions(['a'])", "_osgpeer.value_list([True, False])",
-        "_osgpeer.points(False, [0, 0, 0, 1, 1, 1])", "_osgpeer.points(True, [0, 0, 0])",
-        "_osgpeer.make_glenum(0x0B60)", "_osgpeer.make_glenum(0x0DE1)", "_osgpeer.make_glenum(0xFFFFFFFF)",
-        "_osgpeer.make_glbitfield(0x4100)", "_osgpeer.make_uniform_type(0x1406)", "_osgpeer.make_string('name')",
-        "_osgpeer.make_string('')", "_osgpeer.make_image(4, 4)", "_osgpeer.make_state()",
+# A triangle, never freed.
+GEOMETRY = ("(lambda g, v, e: (_osgdraw.Geometry_setVertexArray(g, v), _osgdraw.Geometry_addPrimitiveSet(g, e), "
+            "v.disown(), e.disown(), g.disown(), g)[-1])(_osgdraw.new_Geometry(), "
+            "_osgdraw.new_Vec3Array([(0, 0, 0), (1, 0, 0), (0, 1, 0)]), _osgdraw.new_DrawElementsUInt(_osgvalues.glenum(4), [0, 1, 2]))")
+# The siblings' values; those of _osgvalues are owned and free themselves after their call.
+PEER = [GEOMETRY, f"_osgvalues.pointer(int({GEOMETRY}), 'osg::Drawable *')", "_osgvalues.node_path([])",
+        "_osgvalues.node_path([_osg.new_Group(), _osg.new_MatrixTransform()])",
+        "_osgvalues.bounding_box(0, 0, 0, 1, 1, 1)", "_osgvalues.bounding_sphere(0, 0, 0, 1)",
+        "_osgvalues.description_list(['a'])", "_osgvalues.value_list([True, False])",
+        "_osgvalues.vec3f_list([(0, 0, 0), (1, 1, 1)])", "_osgvalues.vec3d_list([(0, 0, 0)])",
+        "_osgvalues.glenum(0x0B60)", "_osgvalues.glenum(0x0DE1)", "_osgvalues.glenum(0xFFFFFFFF)",
+        "_osgvalues.glbitfield(0x4100)", "_osgvalues.uniform_type(0x1406)", "_osgvalues.string('name')",
+        "_osgvalues.string('')", "_osgpeer.make_image(4, 4)", "_osgpeer.make_state()",
         "_osgpeer.make_mode_usage()", "_osgpeer.special_node()",
         "_osg.Matrixd_ptr(_osg.new_Matrixd())", "_osg.Matrixf_ptr(_osg.new_Matrixf())"]
 P_SHAPE, P_HINT = 0.85, 0.8  # how often a call follows a learned shape, an argument its learned type
@@ -112,9 +119,8 @@ def split_params(text):
 
 def probe():
     """Runs in a child: returns the table {"tokens": [...], "groups": {...}, "shapes": {name: [[group]]}}."""
-    import _osg
-    import _osgpeer
-    ns = {"_osg": _osg, "_osgpeer": _osgpeer}
+    ns = siblings()
+    _osg, _osgpeer = ns["_osg"], ns["_osgpeer"]
     objects = [f"_osg.new_{c}()" for c in classes(_osg) if hasattr(_osg, f"new_{c}")]
     objects = [e for e in objects if _try(lambda e=e: eval(e, ns))] + PEER
     objects += [f"type('T', (), {{'this': {e}}})()" for e in objects if e.startswith("_osg.new_")]
@@ -235,16 +241,25 @@ def make_calls(table, seed, chunk, size):
 def line(calls):
     """One line of Python that makes the calls; needs only sys.path to reach the modules."""
     text = "; ".join(f"_osg.{name}({', '.join(args)})" for name, args in calls)
-    return ("import _osg, _osgpeer; " if "_osgpeer" in text else "import _osg; ") + text
+    return f"import {', '.join(m for m in ['_osg', '_osgpeer', '_osgvalues', '_osgdraw'] if m in text)}; " + text
+
+
+def siblings():
+    """The namespace arguments are made in: _osg and the sibling modules."""
+    import _osg
+    import _osgdraw
+    os.environ["OSG_PEER_NO_HANDLE"] = "1"  # GLenum's class is _osgvalues', with its destroy function
+    import _osgpeer
+    import _osgvalues
+    return {"_osg": _osg, "_osgpeer": _osgpeer, "_osgvalues": _osgvalues, "_osgdraw": _osgdraw}
 
 
 def worker(table_path, seed, chunk, size, picks):
     """Child: runs the picked calls of a chunk, reporting each index on $FUZZ_FD before the call."""
-    import _osg
-    import _osgpeer
     with open(table_path) as f:
         calls = make_calls(json.load(f), seed, chunk, size)
-    ns = {"_osg": _osg, "_osgpeer": _osgpeer}
+    ns = siblings()
+    _osg = ns["_osg"]
     made = {}
     out = os.fdopen(int(os.environ["FUZZ_FD"]), "w", buffering=1)
     for i in _picks(picks, size):
@@ -411,7 +426,7 @@ def main(argv):
     a = parser.parse_args(argv)
     if a.leaks:
         return subprocess.call([sys.executable, "-m", "pytest", "-q", "-p", "no:cacheprovider", "-k", "leak",
-                                os.path.join(HERE, "test_leaks.py"), os.path.join(HERE, "test_scene.py")],
+                                os.path.join(TESTS, "test_leaks.py")],
                                env=dict(os.environ, OSG_LEAK_CALLS="10000"))
     start = time.time()
     print(f"fuzz: {a.n} calls, seed {a.seed}")
