@@ -103,6 +103,18 @@ def m16(matrix):
     return V.elements(_osg.Matrixd_ptr(matrix), 16)
 
 
+def point(matrix, p):
+    """p transformed by a Matrixd of OSG's row-vector layout."""
+    m = m16(matrix)
+    return [sum(p[i] * m[4 * i + j] for i in range(3)) + m[12 + j] for j in range(3)]
+
+
+def doubles(n):
+    """n doubles in a buffer, and a double * to each: out-parameters."""
+    buffer = (ctypes.c_double * n)()
+    return buffer, [V.pointer(ctypes.addressof(buffer) + 8 * i, "_p_double") for i in range(n)]
+
+
 def plain(v):
     """A value read back by _osgvalues, with every object proxy as its address."""
     if isinstance(v, (list, tuple)):

@@ -7,23 +7,12 @@ import math
 
 import pytest
 
-from engine_support import SwigPyObject, V, _osg, _osgpeer, at, count, free_borrowed, m16, mk, plain, raises, type_name, \
-    values  # noqa: F401
+from engine_support import SwigPyObject, V, _osg, _osgpeer, at, count, doubles, free_borrowed, m16, mk, plain, point, \
+    raises, type_name, values  # noqa: F401
 from test_dispatch import overload_message
 
 GL_COLOR_BUFFER_BIT, GL_DEPTH_BUFFER_BIT, GL_STENCIL_BUFFER_BIT = 0x4000, 0x0100, 0x0400
 GL_BACK, GL_FRONT, GL_DEPTH_COMPONENT24 = 0x0405, 0x0404, 0x81A6
-
-
-def doubles(n):
-    buffer = (ctypes.c_double * n)()
-    return buffer, [V.pointer(ctypes.addressof(buffer) + 8 * i, "_p_double") for i in range(n)]
-
-
-def point(matrix, p):
-    """p transformed by a matrix of OSG's row-vector layout."""
-    m = m16(matrix)
-    return [sum(p[i] * m[4 * i + j] for i in range(3)) + m[12 + j] for j in range(3)]
 
 
 def attachments(camera_map):

@@ -1,20 +1,14 @@
 """_osgdraw's shapes, shape drawables, materials, lights and images: values read back against figures
-computed here, the bounds OSG tessellates, exact messages, ownership and leaks.
-
-Loading _osgdraw joins its cast graph to _osg's records, and its light sources count through the SDK's
-library: the other tests of a process read both as _osg's alone. So the cases (case_*) run in a pytest
-of their own, in a fresh interpreter where this module loads _osgdraw:
-    OSG_DRAW_CASES=1 python3 -m pytest tests/test_draw_shapes.py -o python_functions='case_*'"""
+computed here, the bounds OSG tessellates, exact messages, ownership and leaks."""
 import contextlib
 import ctypes
-import importlib
 import math
 import os
-import subprocess
 import sys
 
 import pytest
 
+import _osgdraw as d
 import test_leaks
 from engine_support import BUILD, V, _osg, m16, mk, raises, type_name, values  # noqa: F401 (mk)
 
@@ -24,14 +18,6 @@ RGBA, RGB, LUMINANCE, ALPHA, UBYTE, FLOAT = 0x1908, 0x1907, 0x1909, 0x1906, 0x14
 DESTROY = {"osg::LightSource *": _osg.delete_Group, "osg::Matrixd *": _osg.delete_Matrixd,
            "osg::Vec4f *": _osg.delete_Vec4f}
 enum, get = V.glenum, lambda cls, member, *a: getattr(d, f"{cls}_{member}")(*a)
-d = importlib.import_module("_osgdraw") if os.environ.get("OSG_DRAW_CASES") == "1" else None
-
-
-def test_cases_in_a_fresh_interpreter():
-    done = subprocess.run([sys.executable, "-m", "pytest", __file__, "-q", "-p", "no:cacheprovider", "-o",
-                           "python_functions=case_*"], env=dict(os.environ, OSG_DRAW_CASES="1"), capture_output=True,
-                          text=True, timeout=600)
-    assert done.returncode == 0 and " passed" in done.stdout, done.stdout + done.stderr
 
 
 @pytest.fixture
@@ -57,7 +43,7 @@ SHAPES = [("Box", (2, 4, 6), {"HalfLengths": [1, 2, 3]}, [(-1, 1), (-2, 2), (-3,
 
 
 @pytest.mark.parametrize("cls,dims,reads,extent", SHAPES, ids=lambda v: v if isinstance(v, str) else "")
-def case_shapes_read_back_and_tessellate_to_their_bounds(mk, own, cls, dims, reads, extent):
+def test_shapes_read_back_and_tessellate_to_their_bounds(mk, own, cls, dims, reads, extent):
     shape = own(getattr(d, f"new_{cls}")(mk.Vec3f(4, 5, 6), *dims))
     got = {k: get(cls, f"get{k}", shape) for k in reads}
     assert {k: values(v, "Vec3f") if k == "HalfLengths" else v for k, v in got.items()} == reads
@@ -76,7 +62,7 @@ def case_shapes_read_back_and_tessellate_to_their_bounds(mk, own, cls, dims, rea
         assert V.read(_osg.Geode_getBoundingBox(geode)) == box([x, (-z[1], -z[0]), y])
 
 
-def case_tessellation_hints_shared_with_drawables(own):
+def test_tessellation_hints_shared_with_drawables(own):
     hints, flags = own(d.new_TessellationHints()), "FrontFace BackFace Normals TextureCoords Top Body Bottom".split()
     assert [get("TessellationHints", f"getCreate{f}", hints) for f in flags] == [1, 0, 1, 0, 1, 1, 1]  # the header's
     get("TessellationHints", "setCreateBackFace", hints, True)
@@ -88,7 +74,7 @@ def case_tessellation_hints_shared_with_drawables(own):
     assert d.ShapeDrawable_getTessellationHints(drawable) is None and _osg.Referenced_referenceCount(hints) == 1
 
 
-def case_material_and_light_in_a_state_set(mk, own):
+def test_material_and_light_in_a_state_set(mk, own):
     ss, mat, light = mk(_osg.new_StateSet()), own(d.new_Material()), own(d.new_Light(3))
     for a in (mat, light):
         _osg.StateSet_setAttributeAndModes(ss, a)
@@ -105,7 +91,7 @@ def case_material_and_light_in_a_state_set(mk, own):
     assert (d.Light_getMember(light), d.Light_getType(light)) == (3, _osg.StateAttribute_LIGHT)
 
 
-def case_light_source_in_a_group(mk, own):
+def test_light_source_in_a_group(mk, own):
     light, root, (refs, unrefs) = own(d.new_Light(2)), mk(_osg.new_Group()), sdk_calls()
     source = d.new_LightSource()  # one reference, through the SDK's library as a group's
     assert sdk_calls() == (refs + 1, unrefs) and _osg.Referenced_referenceCount(source) == 1 and source.own()
@@ -127,7 +113,7 @@ def sdk_calls():
 @pytest.mark.parametrize("s,t,r,fmt,kind,packing,size", [
     (4, 3, 2, RGBA, UBYTE, 1, 4), (3, 2, 1, RGB, UBYTE, 4, 3), (5, 2, 3, LUMINANCE, FLOAT, 8, 4),
     (3, 3, 1, ALPHA, UBYTE, None, 1)])
-def case_image_sizes(own, s, t, r, fmt, kind, packing, size):
+def test_image_sizes(own, s, t, r, fmt, kind, packing, size):
     image, row = own(d.new_Image()), -(-s * size // (packing or 1)) * (packing or 1)
     d.Image_allocateImage(image, s, t, r, enum(fmt), enum(kind), *[packing] * (packing is not None))
     sizes = "s t r getPixelSizeInBits getRowSizeInBytes getImageSizeInBytes getTotalSizeInBytes".split()
@@ -138,7 +124,7 @@ def case_image_sizes(own, s, t, r, fmt, kind, packing, size):
         RGBA, RGB, LUMINANCE, ALPHA, UBYTE, FLOAT]
 
 
-def case_image_pixels_flip_and_scale(mk, own):
+def test_image_pixels_flip_and_scale(mk, own):
     image, color = own(d.new_Image()), {(s, t): [(s * 2 + t) * 51 / 255, 0, 1, 1] for s in range(2) for t in range(2)}
     d.Image_allocateImage(image, 2, 2, 1, enum(RGBA), enum(UBYTE))
     for (s, t), c in color.items():
@@ -156,7 +142,7 @@ def case_image_pixels_flip_and_scale(mk, own):
     assert (d.Image_s(image), d.Image_t(image), V.read(d.Image_getFileName(image))) == (4, 8, "bricks.png")
 
 
-def case_refusals(own):
+def test_refusals(own):
     image, light = own(d.new_Image()), own(d.new_Light())
     prototypes = "".join(f"    osg::Image::allocateImage(int,int,int,GLenum,GLenum{a})\n" for a in [",int", ""])
     for message, f, *args in [
@@ -170,7 +156,7 @@ def case_refusals(own):
         raises(TypeError, message, f, *args)
 
 
-def case_repeated_calls_leak_nothing(mk, own):
+def test_repeated_calls_leak_nothing(mk, own):
     shape, hints, image, light = own(d.new_Cone()), own(d.new_TessellationHints()), own(d.new_Image()), own(d.new_Light())
     v4, rgba, ubyte, ss = mk.Vec4f(1, 1, 1, 1), enum(RGBA), enum(UBYTE), mk(_osg.new_StateSet())
     # The capsule counts the owned objects of every module: one made here and given back by _osg leaves it as it was.

@@ -4,7 +4,7 @@ import math
 
 import pytest
 
-from engine_support import V, _osg, _osgpeer, at, mk, raises, type_name, values  # noqa: F401
+from engine_support import V, _osg, _osgpeer, at, doubles, mk, raises, type_name, values  # noqa: F401
 
 approx = pytest.approx
 
@@ -30,11 +30,6 @@ def rotation_z(angle):
     """Row-vector convention: v * R turns (1, 0, 0) towards (0, 1, 0) for a positive angle."""
     c, s = math.cos(angle), math.sin(angle)
     return [[c, s, 0, 0], [-s, c, 0, 0], [0, 0, 1, 0], [0, 0, 0, 1]]
-
-
-def doubles(n):
-    buffer = (ctypes.c_double * n)()
-    return buffer, [_osgpeer.new_pointer(ctypes.addressof(buffer) + 8 * i, "_p_double", 0) for i in range(n)]
 
 
 def test_construction_and_element_reads(mk):

@@ -6,7 +6,7 @@ import os
 
 import pytest
 
-from engine_support import BUILD, V, _osg, _osgpeer, free_borrowed, m16, mk, plain, raises, type_name  # noqa: F401 (mk)
+from engine_support import BUILD, V, _osg, _osgpeer, free_borrowed, m16, mk, plain, point, raises, type_name  # noqa: F401
 from test_draw_geometry import D, mesh
 from scene_rows import NODES
 from test_dispatch import overload_message
@@ -32,12 +32,6 @@ def made():
 
 def camera():
     return V.pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Camera")
-
-
-def point(matrix, p):
-    """p transformed by a matrix of OSG's row-vector layout."""
-    m = m16(matrix)
-    return [sum(p[i] * m[4 * i + j] for i in range(3)) + m[12 + j] for j in range(3)]
 
 
 def translate(x, y, z, mk):
