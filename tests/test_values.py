@@ -13,6 +13,8 @@ def test_cells_elements_and_classes(mk):
     raises(TypeError, "bad argument type for built-in operation", V.string, 3)
     raises(OverflowError, "4294967296 does not fit in 32 bits", V.glenum, 1 << 32)
     assert V.read(V.glbitfield(0xFFFFFFFF)) == 0xFFFFFFFF
+    s = V.string("freed")
+    assert (V.String.__swig_destroy__(s), s.thisown) == (None, False)  # an explicit destroy leaves no owner
     raises(TypeError, "item 0 of a node path is not a node", V.node_path, [1])
     raises(TypeError, "read() takes a value of _osgvalues, not 'int'", V.read, 1)
     raises(TypeError, "elements() takes a float *, double * or unsigned int *, not 'str'", V.elements, "x", 1)
