@@ -11,7 +11,7 @@ def _missing(filename):
         raise FileNotFoundError(_errno.ENOENT, _os.strerror(_errno.ENOENT), filename)
 
 
-def readNodeFile(filename):
+def readNodeFile(filename: str) -> osg.Node:
     """The scene in the file, as a proxy of its root's own class."""
     _missing(filename)
     node = _flat_read_node(filename)
@@ -20,7 +20,7 @@ def readNodeFile(filename):
     return node
 
 
-def readImageFile(filename):
+def readImageFile(filename: str) -> osg.Image:
     """The image in the file."""
     _missing(filename)
     image = _flat_read_image(filename)
@@ -29,13 +29,13 @@ def readImageFile(filename):
     return image
 
 
-def writeNodeFile(node, filename):
+def writeNodeFile(node: osg.Node, filename: str) -> None:
     """Writes the scene below node, in the format of the file's extension."""
     if not _flat_write_node(node, filename):
         raise OSError(f"{filename}: OpenSceneGraph could not write a scene to it")
 
 
-def writeImageFile(image, filename):
+def writeImageFile(image: osg.Image, filename: str) -> None:
     """Writes the image, in the format of the file's extension."""
     if not _flat_write_image(image, filename):
         raise OSError(f"{filename}: OpenSceneGraph could not write an image to it")

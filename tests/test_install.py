@@ -36,9 +36,10 @@ def test_pip_install_in_a_fresh_virtual_environment():
                    "--config-settings", f"build-dir={os.path.join(tmp, 'build')}", CHECKOUT)
         assert "Successfully installed osg-binding-0.1.0" in proc.stdout
         site = run(python, "-c", "import sysconfig; print(sysconfig.get_path('platlib'))").stdout.strip()
+        stubbed, packages = ["_osg", "_osgvalues", "_osgDB", "_osgdraw"], ["osg", "osgDB"]
         assert sorted(os.listdir(site)) == sorted([
-            "_osg-stubs", "_osg.cpython-314-x86_64-linux-gnu.so", "_osg.pyi", "_osgvalues-stubs",
-            "_osgvalues.cpython-314-x86_64-linux-gnu.so", "_osgvalues.pyi", "libzogOSG.so", "osg",
+            *(f"{m}{end}" for m in stubbed for end in ("-stubs", ".cpython-314-x86_64-linux-gnu.so", ".pyi")),
+            "_osgproxy.cpython-314-x86_64-linux-gnu.so", "libzogOSG.so", *packages,
             "osg_binding-0.1.0.dist-info", *[n for n in os.listdir(site) if n.startswith("pip")]])
 
         out = run(python, "-c", textwrap.dedent("""\
