@@ -91,7 +91,7 @@ def _offscreen(width, height):
                 _fail(f"no display: the X display {display!r} cannot be opened")
             _fail(f"the graphics context could not be created: OpenGL pbuffer of {width} x {height} on X display "
                   f"{display!r} (is Mesa's libgl1-mesa-dri installed?)")
-        _viewers[key] = (viewer, viewer.getCamera().getClearColor())
+        _viewers[key] = (viewer, osg.Vec4f(*viewer.getCamera().getClearColor()))  # a copy: the camera's changes
     return _viewers[key]
 
 
