@@ -17,7 +17,7 @@ import osgViewer
 from PIL import Image
 
 WIDTH, HEIGHT = 640, 480
-# bench/frameloop.cpp does the same steps in C++: keep the two in step.
+# bench/framefloor.cpp does the same steps in C++: keep the two in step.
 GRAVITY, RESTITUTION, FRICTION, WALL, DT = -9.81, 0.6, 0.9, 5.0, 1.0 / 30
 EYE, CENTER = osg.Vec3d(12, -16, 11), osg.Vec3d(0, 0, 1.5)
 

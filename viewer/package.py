@@ -12,6 +12,7 @@ import tempfile as _tempfile
 
 _display = None     # the X display pictures are drawn on: $DISPLAY, or our own Xvfb's
 _xvfb = None        # that Xvfb
+_keep = []          # our own connection to that Xvfb
 _viewers = {}       # (width, height) -> (viewer, the clear colour OSG gave its camera)
 
 
@@ -19,10 +20,20 @@ def _fail(what):
     raise RuntimeError(f"osgViewer.render: {what}")
 
 
+def _x11():
+    import ctypes
+    x11 = ctypes.CDLL("libX11.so.6")  # OSG's X11 graphics contexts have loaded it already
+    x11.XOpenDisplay.restype = ctypes.c_void_p
+    x11.XOpenDisplay.argtypes = [ctypes.c_char_p]
+    x11.XCloseDisplay.argtypes = [ctypes.c_void_p]
+    return x11
+
+
 def _start_xvfb():
     """A private X server: Xvfb names the display it found free through -displayfd. With
-    -terminate it stops once its last client has gone, so at the latest when this process
-    exits: never under a graphics context still open, which Xlib would answer by exiting."""
+    -terminate it stops once its last client has gone, never under a graphics context still open
+    (which Xlib would answer by exiting). A connection of our own keeps it while the process
+    runs, whatever viewers come and go; at exit, _close lets go of it."""
     global _xvfb
     path = _shutil.which("Xvfb")
     if path is None:
@@ -51,7 +62,9 @@ def _start_xvfb():
         said = log.read().decode(errors="replace").strip().splitlines()
         _fail("no display: Xvfb did not start" + (f" ({said[-1]})" if said else ""))
     log.close()
-    return ":" + number.strip().decode()
+    display = ":" + number.strip().decode()
+    _keep.append(_x11().XOpenDisplay(display.encode()))
+    return display
 
 
 def _display_name():
@@ -65,13 +78,7 @@ def _display_name():
 
 def _opens(display):
     """Whether an X client can connect to the display at all."""
-    import ctypes
-    try:
-        x11 = ctypes.CDLL("libX11.so.6")
-    except OSError:
-        return True  # nothing to ask: the context's failure is all there is to say
-    x11.XOpenDisplay.restype = ctypes.c_void_p
-    x11.XCloseDisplay.argtypes = [ctypes.c_void_p]
+    x11 = _x11()
     connection = x11.XOpenDisplay(display.encode())
     if connection:
         x11.XCloseDisplay(connection)
@@ -96,11 +103,13 @@ def _offscreen(width, height):
 
 
 def _close():
-    """At exit: the viewers and their graphics contexts go while the interpreter still runs. A
-    client that connects and leaves stops our Xvfb where no context of ours is left open."""
+    """At exit: the viewers and their graphics contexts go while the interpreter still runs, then
+    our hold on Xvfb, which stops once no context of ours is left open."""
     _viewers.clear()
-    if _xvfb is not None and _xvfb.poll() is None:
-        _opens(_display)
+    while _keep:
+        connection = _keep.pop()
+        if connection:
+            _x11().XCloseDisplay(connection)
 
 
 _atexit.register(_close)
