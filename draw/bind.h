@@ -31,7 +31,11 @@ using Types = wrap::TypeTable<
     Type<osg::Box, "osg::Box">, Type<osg::Sphere, "osg::Sphere">, Type<osg::Capsule, "osg::Capsule">,
     Type<osg::Cylinder, "osg::Cylinder">, Type<osg::Cone, "osg::Cone">,
     Type<osg::TessellationHints, "osg::TessellationHints">, Type<osg::Material, "osg::Material">,
-    Type<osg::Light, "osg::Light">, Type<osg::LightSource, "osg::LightSource">>;
+    Type<osg::Light, "osg::Light">, Type<osg::LightSource, "osg::LightSource">,
+    Type<osg::BoundingSphere, "osg::BoundingSphere", "_p_osg__BoundingSphereImplT_osg__Vec3d_t">,
+    Type<osg::State, "osg::State">,
+    Type<osg::Geometry::PrimitiveSetList, "std::vector< osg::ref_ptr< osg::PrimitiveSet > >",
+         "_p_std__vectorT_ref_ptrT_osg__PrimitiveSet_t_t">>;
 
 inline constexpr int glenum = Types::named<"_p_GLenum">;
 

@@ -14,5 +14,6 @@
 #include <osg/PrimitiveSet>
 #include <osg/Quat>
 #include <osg/Shape>
+#include <osg/State>
 #include <osg/ShapeDrawable>
 #include <osg/StateSet>

@@ -98,9 +98,44 @@ int adopt(PyObject *obj) {
     return 0;
 }
 
+// ---- the proxy base ----------------------------------------------------------------------------
+
+// The base of the packages' proxy classes: an instance is its `this` and nothing else, so that
+// neither the collector nor a dictionary costs anything per result. The pointer objects behind
+// `this` hold no Python objects, so no cycle can pass through it. A Python subclass of a
+// package class gets its dictionary back, as Python's classes do.
+struct Proxy {
+    PyObject_HEAD
+    PyObject *self_this;
+};
+
+void proxy_dealloc(PyObject *self) {
+    PyTypeObject *type = Py_TYPE(self);
+    Py_CLEAR(((Proxy *)self)->self_this);
+    type->tp_free(self);
+    if (type->tp_flags & Py_TPFLAGS_HEAPTYPE) Py_DECREF(type);
+}
+
+PyMemberDef proxy_members[] = {
+    {"this", Py_T_OBJECT_EX, offsetof(Proxy, self_this), 0, "The pointer object of the C++ object."},
+    {nullptr, 0, 0, 0, nullptr},
+};
+
+PyType_Slot proxy_slots[] = {
+    {Py_tp_dealloc, (void *)proxy_dealloc},
+    {Py_tp_members, proxy_members},
+    {Py_tp_new, (void *)PyType_GenericNew},
+    {Py_tp_doc, (void *)"The base of the proxy classes: `this` is the pointer object of the C++ object."},
+    {0, nullptr},
+};
+
+PyType_Spec proxy_spec = {"_osgproxy.Proxy", sizeof(Proxy), 0, Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE, proxy_slots};
+
 // ---- the method descriptor ---------------------------------------------------------------------
 
 enum Mode { Plain, Init };
+
+PyTypeObject *method_type;
 
 struct Method {
     PyObject_HEAD
@@ -210,6 +245,60 @@ PyObject *method_call(PyObject *callable, PyObject *const *args, size_t nargsf, 
     return r;
 }
 
+// Calling a class whose __init__ is an init(): the instance made as its __new__ makes it and
+// initialised by that __init__, as type.__call__ would, without looking __init__ up by name and
+// calling it with the instance prepended. A class whose __new__ or __init__ has changed since,
+// or a call with keywords, takes type.__call__ itself.
+PyObject *type_call(PyObject *callable, PyObject *const *args, Py_ssize_t n, PyObject *kwnames) {
+    Py_ssize_t nk = kwnames ? PyTuple_GET_SIZE(kwnames) : 0;
+    PyObject *tuple = PyTuple_New(n), *kwargs = nk ? PyDict_New() : nullptr, *r = nullptr;
+    if (tuple && (!nk || kwargs)) {
+        for (Py_ssize_t i = 0; i < n; ++i) PyTuple_SET_ITEM(tuple, i, Py_NewRef(args[i]));
+        bool ok = true;
+        for (Py_ssize_t i = 0; ok && i < nk; ++i) ok = PyDict_SetItem(kwargs, PyTuple_GET_ITEM(kwnames, i), args[n + i]) == 0;
+        if (ok) r = PyType_Type.tp_call(callable, tuple, kwargs);
+    }
+    Py_XDECREF(tuple);
+    Py_XDECREF(kwargs);
+    return r;
+}
+
+PyObject *construct(PyObject *callable, PyObject *const *args, size_t nargsf, PyObject *kwnames) {
+    auto *cls = (PyTypeObject *)callable;
+    static PyObject *init_name = PyUnicode_InternFromString("__init__");
+    PyObject *init = init_name ? _PyType_Lookup(cls, init_name) : nullptr;
+    Py_ssize_t n = PyVectorcall_NARGS(nargsf);
+    if (!init || !Py_IS_TYPE(init, method_type) || ((Method *)init)->mode != Init || n > 16 ||
+        (cls->tp_new != PyType_GenericNew && cls->tp_new != PyBaseObject_Type.tp_new) ||
+        (kwnames && PyTuple_GET_SIZE(kwnames)))
+        return type_call(callable, args, n, kwnames);
+    PyObject *self = cls->tp_alloc(cls, 0);
+    if (!self) return nullptr;
+    PyObject *stack[17];
+    stack[0] = self;
+    for (Py_ssize_t i = 0; i < n; ++i) stack[i + 1] = args[i];
+    PyObject *r = method_call(init, stack, n + 1, nullptr);
+    if (!r) {
+        Py_DECREF(self);
+        return nullptr;
+    }
+    Py_DECREF(r);
+    return self;
+}
+
+// An init() set on a class as its __init__ makes the class construct through construct().
+PyObject *method_set_name(PyObject *self, PyObject *const *args, Py_ssize_t n) {
+    if (n == 2 && PyType_Check(args[0]) && ((Method *)self)->mode == Init &&
+        PyUnicode_Check(args[1]) && PyUnicode_EqualToUTF8(args[1], "__init__"))
+        ((PyTypeObject *)args[0])->tp_vectorcall = construct;
+    Py_RETURN_NONE;
+}
+
+PyMethodDef method_methods[] = {
+    {"__set_name__", (PyCFunction)(void (*)())method_set_name, METH_FASTCALL, nullptr},
+    {nullptr, nullptr, 0, nullptr},
+};
+
 PyObject *method_get(PyObject *self, PyObject *obj, PyObject *) {
     if (!obj) return Py_NewRef(self);
     return PyMethod_New(self, obj);
@@ -247,6 +336,7 @@ PyType_Slot method_slots[] = {
     {Py_tp_call, (void *)PyVectorcall_Call},
     {Py_tp_descr_get, (void *)method_get},
     {Py_tp_getset, method_getset},
+    {Py_tp_methods, method_methods},
     {Py_tp_members, method_members},
     {0, nullptr},
 };
@@ -255,8 +345,6 @@ PyType_Spec method_spec = {"_osgproxy.method", sizeof(Method), 0,
                            Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_VECTORCALL | Py_TPFLAGS_METHOD_DESCRIPTOR |
                                Py_TPFLAGS_DISALLOW_INSTANTIATION,
                            method_slots};
-PyTypeObject *method_type;
-
 PyObject *make(PyObject *flat, Mode mode, bool cast, bool own, PyObject *edge, PyObject *read) {
     if (!PyCFunction_Check(flat)) return PyErr_Format(PyExc_TypeError, "a flat function is required, not '%s'",
                                                       Py_TYPE(flat)->tp_name);
@@ -329,7 +417,11 @@ PyMODINIT_FUNC PyInit__osgproxy() {
                               "descriptors over the flat functions, results of their own class.",
                               -1, nullptr, nullptr, nullptr, nullptr, nullptr};
     if (!method_type && !(method_type = (PyTypeObject *)PyType_FromSpec(&method_spec))) return nullptr;
+    static PyObject *proxy_type = PyType_FromSpec(&proxy_spec);
+    if (!proxy_type) return nullptr;
     PyObject *m = wrap::init_module(def, [] { proxy::Types::join(swig_module); });
-    if (m && PyModule_AddObjectRef(m, "Method", (PyObject *)method_type) < 0) Py_CLEAR(m);
+    if (m && (PyModule_AddObjectRef(m, "Method", (PyObject *)method_type) < 0 ||
+              PyModule_AddObjectRef(m, "Proxy", proxy_type) < 0))
+        Py_CLEAR(m);
     return m;
 }

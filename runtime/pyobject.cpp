@@ -56,7 +56,40 @@ static PyObject *SwigPyObject_richcompare(PyObject *v, PyObject *w, int op) {
 
 static PyObject *SwigPyObject_long(PyObject *v) { return PyLong_FromVoidPtr(((SwigPyObject *)v)->ptr); }
 
+// The C function of a method of a sibling module's proxy type (the base its class derives from).
+static PyCFunction sibling_method(PyTypeObject *t, const char *name) {
+    for (; t; t = t->tp_base) {
+        if (std::strcmp(t->tp_name, "swig_runtime_data4.SwigPyObject") != 0 || !t->tp_methods) continue;
+        for (PyMethodDef *m = t->tp_methods; m->ml_name; ++m)
+            if (std::strcmp(m->ml_name, name) == 0) return m->ml_meth;
+    }
+    return nullptr;
+}
+
 void SwigPyObject_setown(SwigPyObject *sobj, int own) {
+    // A pointer object of a sibling module (its own proxy type, its own runtime) changes owner
+    // through that runtime: the capsule reference it may hold is that runtime's to move, since
+    // that runtime's deallocation releases it; moving it here would release a reference a
+    // joining module never took. The method is called directly, taking no reference, as this
+    // may run inside the object's own deallocation (its destroy function disowns it).
+    if (!PyType_IsSubtype(Py_TYPE(sobj), SwigPyObject_type())) {
+        PyCFunction move = sibling_method(Py_TYPE(sobj), own ? "acquire" : "disown");
+        if (!move || !own == !sobj->own) {
+            sobj->own = own;
+            return;
+        }
+        PyObject *type, *value, *traceback;
+        PyErr_Fetch(&type, &value, &traceback);
+        PyObject *r = move((PyObject *)sobj, nullptr);
+        if (r) {
+            Py_DECREF(r);
+        } else {
+            PyErr_Clear();
+            sobj->own = own;
+        }
+        PyErr_Restore(type, value, traceback);
+        return;
+    }
     // An owner holds one reference to the shared capsule, released when it dies owning;
     // a change of ownership moves that reference with the flag, so it is never released
     // by an object that did not take it, nor kept by one that gave ownership away.
@@ -118,8 +151,7 @@ static void SwigPyObject_dealloc(PyObject *v) {
         auto *data = ty ? (SwigPyClientData *)ty->clientdata : nullptr;
         PyObject *destroy = data ? data->destroy : nullptr;
         if (destroy) {
-            PyObject *type, *value, *traceback;
-            PyErr_Fetch(&type, &value, &traceback);
+            PyObject *pending = PyErr_GetRaisedException();
             PyObject *res = nullptr;
             if (data->delargs) {
                 // A temporary that does not own, so the destroy call cannot recurse into here.
@@ -134,12 +166,11 @@ static void SwigPyObject_dealloc(PyObject *v) {
                 res = meth(mself, v);
             }
             if (res) {
-                PyErr_Restore(type, value, traceback);
                 Py_DECREF(res);
             } else {
                 PyErr_WriteUnraisable(destroy);
-                PyErr_Restore(type, value, traceback);
             }
+            PyErr_SetRaisedException(pending);
         } else {
             std::printf("swig/python detected a memory leak of type '%s', no destructor found.\n", SWIG_TypePrettyName(ty));
         }

@@ -21,7 +21,9 @@ _m = _p.method
 _init = _p.init
 _Value = _v.Value
 _READ = (_v.String, _v.GLenum, _v.GLbitfield, _v.UniformType, _v.NodePath, _v.DescriptionList, _v.ValueList,
-         _v.ParentList, _v.NodePathList, _v.MatrixList, _v.ClipPlaneList, _v.StateSetList, _v.TypeMemberPair)
+         _v.ParentList, _v.NodePathList, _v.MatrixList, _v.ClipPlaneList, _v.StateSetList, _v.TypeMemberPair,
+         _v.ModeList, _v.AttributeList, _v.TextureModeList, _v.TextureAttributeList, _v.UniformList, _v.DefineList,
+         _v.RefAttributePair, _v.RefUniformPair, _v.DefinePair, _v.BufferAttachmentMap)
 _CELLS = (_v.DoubleCell, _v.FloatCell, _v.UIntCell)
 _READS = (_READ + _CELLS, _v.read)
 # What a declared value of _osgvalues accepts as a Python value, and makes it with.
@@ -46,10 +48,11 @@ def _result(r):
     return _p.downcast(r)
 
 
-class _Proxy:
+class _Proxy(_p.Proxy):
     """The root of the proxy classes: `this` is the pointer object, `thisown` its ownership. Two
-    proxies of one object are equal and hash alike, unless OSG's class compares by value."""
-    __slots__ = ("this", "__dict__", "__weakref__")
+    proxies of one object are equal and hash alike, unless OSG's class compares by value. The
+    package's classes hold nothing but `this`; a subclass of one gets a dictionary."""
+    __slots__ = ()
     thisown = property(lambda self: self.this.own(), lambda self, value: self.this.own(value))
 
     def __repr__(self):
@@ -242,7 +245,8 @@ def class_text(model, cls, package):
     sequence = n and not any(model.sequence_length(model.classes[b]) for b in cls.bases)
     if sequence:
         bases = ["_Sequence"] + bases
-    out = [f"class {cls.name}({', '.join(bases)}):", f"    {'Proxy of C++ ' + (cls.spelling or cls.name) + '.'!r}"]
+    out = [f"class {cls.name}({', '.join(bases)}):", f"    {'Proxy of C++ ' + (cls.spelling or cls.name) + '.'!r}",
+           "    __slots__ = ()"]
     if sequence:
         out.append(f"    _n = {n}\n    _rows = {4 if n == 16 else 0}\n    _source = {model.element_source(cls)!r}")
     if cls.constructible and cls.new:

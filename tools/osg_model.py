@@ -32,7 +32,30 @@ READ = {
     "_p_std__vectorT_ref_ptrT_osg__ClipPlane_t_t": "list[ClipPlane]",
     "_p_std__vectorT_osg__StateSet_p_t": "list[StateSet]",
     "_p_std__pairT_osg__StateAttribute__Type_unsigned_int_t": "tuple[int, int]",
+    "_p_std__mapT_GLenum_unsigned_int_t": "dict[int, int]",
+    "_p_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t":
+        "dict[tuple[int, int], tuple[StateAttribute, int]]",
+    "_p_std__vectorT_std__mapT_GLenum_unsigned_int_t_t": "list[dict[int, int]]",
+    "_p_std__vectorT_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t_t":
+        "list[dict[tuple[int, int], tuple[StateAttribute, int]]]",
+    "_p_std__mapT_std__string_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t_t": "dict[str, tuple[Any, int]]",
+    "_p_std__mapT_std__string_std__pairT_std__string_unsigned_int_t_t": "dict[str, tuple[str, int]]",
+    "_p_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t": "tuple[StateAttribute, int]",
+    "_p_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t": "tuple[Any, int]",
+    "_p_std__pairT_std__string_unsigned_int_t": "tuple[str, int]",
+    "_p_std__mapT_osg__Camera__BufferComponent_osg__Camera__Attachment_t": "dict[int, tuple[Any, ...]]",
 }
+# The _osgvalues classes of the containers read back.
+CONTAINERS = {"_p_std__mapT_GLenum_unsigned_int_t": "ModeList",
+              "_p_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t": "AttributeList",
+              "_p_std__vectorT_std__mapT_GLenum_unsigned_int_t_t": "TextureModeList",
+              "_p_std__vectorT_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t_t": "TextureAttributeList",
+              "_p_std__mapT_std__string_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t_t": "UniformList",
+              "_p_std__mapT_std__string_std__pairT_std__string_unsigned_int_t_t": "DefineList",
+              "_p_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t": "RefAttributePair",
+              "_p_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t": "RefUniformPair",
+              "_p_std__pairT_std__string_unsigned_int_t": "DefinePair",
+              "_p_std__mapT_osg__Camera__BufferComponent_osg__Camera__Attachment_t": "BufferAttachmentMap"}
 # Scalars behind references (accessors such as Vec3f.x()) read back too.
 CELLS = {"_p_double": ("double_cell", "float"), "_p_float": ("float_cell", "float"),
          "_p_unsigned_int": ("uint_cell", "int")}
@@ -49,6 +72,7 @@ VALUE_CLASSES = {
     "_p_std__vectorT_osg__StateSet_p_t": "StateSetList", "_p_std__vectorT_osg__Vec3f_t": "Vec3fList",
     "_p_std__vectorT_osg__Vec3d_t": "Vec3dList",
     "_p_std__pairT_osg__StateAttribute__Type_unsigned_int_t": "TypeMemberPair",
+    **CONTAINERS,
 }
 
 

@@ -1,11 +1,16 @@
 // _osgvalues: the sibling module that makes, from Python values, what _osg only accepts as
 // pointer objects (strings, GL enumerants, out-parameter cells, node paths, lists, bounding
-// volumes) and reads them back. It shares the type table through the capsule, as the SDK's
+// volumes) and reads them back, the state set's containers and a camera's attachments
+// included; `pointer` makes a pointer object for an address from elsewhere (ctypes, another
+// library). It shares the type table through the capsule, as the SDK's
 // sibling modules do, and registers a small class with a destroy function on each value
 // descriptor, so that owned values (its own and _osg's by-value results) free themselves.
 #include "runtime/swigrt.h"
 
 #include <osg/BoundingBox>
+#include <osg/Camera>
+#include <osg/Image>
+#include <osg/Texture>
 #include <osg/BoundingSphere>
 #include <osg/ClipNode>
 #include <osg/Group>
@@ -18,6 +23,7 @@
 #include <osgDB/WriteFile>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -32,6 +38,8 @@ using Matrices = osg::MatrixList;
 using ClipPlanes = osg::ClipNode::ClipPlaneList;
 using StateSets = osg::StateAttribute::ParentList;
 using TypeMember = osg::StateAttribute::TypeMemberPair;
+using S = osg::StateSet;
+using Attachments = osg::Camera::BufferAttachmentMap;
 
 // The value descriptors (registered here), then the classes whose pointers they hold.
 // clang-format off
@@ -55,13 +63,27 @@ using TypeMember = osg::StateAttribute::TypeMemberPair;
     X(StateSetList, StateSets, "_p_std__vectorT_osg__StateSet_p_t", "osg::StateAttribute::ParentList *", "An attribute's state sets.") \
     X(Vec3fList, std::vector<osg::Vec3f>, "_p_std__vectorT_osg__Vec3f_t", "std::vector< osg::Vec3f > *", "Points in single precision.") \
     X(Vec3dList, std::vector<osg::Vec3d>, "_p_std__vectorT_osg__Vec3d_t", "std::vector< osg::Vec3d > *", "Points in double precision.") \
-    X(TypeMemberPair, TypeMember, "_p_std__pairT_osg__StateAttribute__Type_unsigned_int_t", "osg::StateAttribute::TypeMemberPair *", "An attribute's type and member.")
+    X(TypeMemberPair, TypeMember, "_p_std__pairT_osg__StateAttribute__Type_unsigned_int_t", "osg::StateAttribute::TypeMemberPair *", "An attribute's type and member.") \
+    X(ModeList, S::ModeList, "_p_std__mapT_GLenum_unsigned_int_t", "osg::StateSet::ModeList *", "A state set's modes: {mode: value}.") \
+    X(AttributeList, S::AttributeList, "_p_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t", "osg::StateSet::AttributeList *", "A state set's attributes: {(type, member): (attribute, value)}.") \
+    X(TextureModeList, S::TextureModeList, "_p_std__vectorT_std__mapT_GLenum_unsigned_int_t_t", "osg::StateSet::TextureModeList *", "A state set's modes of each texture unit.") \
+    X(TextureAttributeList, S::TextureAttributeList, "_p_std__vectorT_std__mapT_std__pairT_osg__StateAttribute__Type_unsigned_int_t_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t_t_t", "osg::StateSet::TextureAttributeList *", "A state set's attributes of each texture unit.") \
+    X(UniformList, S::UniformList, "_p_std__mapT_std__string_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t_t", "osg::StateSet::UniformList *", "A state set's uniforms: {name: (uniform, value)}.") \
+    X(DefineList, S::DefineList, "_p_std__mapT_std__string_std__pairT_std__string_unsigned_int_t_t", "osg::StateSet::DefineList *", "A state set's defines: {name: (definition, value)}.") \
+    X(RefAttributePair, S::RefAttributePair, "_p_std__pairT_ref_ptrT_osg__StateAttribute_t_unsigned_int_t", "osg::StateSet::RefAttributePair *", "An attribute and its value.") \
+    X(RefUniformPair, S::RefUniformPair, "_p_std__pairT_ref_ptrT_osg__Uniform_t_unsigned_int_t", "osg::StateSet::RefUniformPair *", "A uniform and its value.") \
+    X(DefinePair, S::DefinePair, "_p_std__pairT_std__string_unsigned_int_t", "osg::StateSet::DefinePair *", "A definition and its value.") \
+    X(BufferAttachmentMap, Attachments, "_p_std__mapT_osg__Camera__BufferComponent_osg__Camera__Attachment_t", "osg::Camera::BufferAttachmentMap *", "A camera's attachments: {buffer component: (internal format, texture, image, level, face, mipmap generation, samples, colour samples, width, height)}.")
 #define CLASS_TYPES(X) \
     X(Node, osg::Node, "_p_osg__Node", "osg::Node *") \
     X(Group, osg::Group, "_p_osg__Group", "osg::Group *") \
     X(Matrixd, osg::Matrixd, "_p_osg__Matrixd", "osg::Matrixd *") \
     X(ClipPlane, osg::ClipPlane, "_p_osg__ClipPlane", "osg::ClipPlane *") \
-    X(StateSet, osg::StateSet, "_p_osg__StateSet", "osg::StateSet *")
+    X(StateSet, osg::StateSet, "_p_osg__StateSet", "osg::StateSet *") \
+    X(StateAttribute, osg::StateAttribute, "_p_osg__StateAttribute", "osg::StateAttribute *") \
+    X(Uniform, osg::Uniform, "_p_osg__Uniform", "osg::Uniform *") \
+    X(Texture, osg::Texture, "_p_osg__Texture", "osg::Texture *") \
+    X(Image, osg::Image, "_p_osg__Image", "osg::Image *")
 // clang-format on
 
 #define INDEX(N, ...) i_##N,
@@ -257,6 +279,40 @@ PyObject *vec_tuple(const osg::Vec3d &v) { return Py_BuildValue("(ddd)", v.x(), 
 
 PyObject *node_list(const osg::NodePath &p) { return list_of(p, borrowed<i_Node>); }
 
+template <class C, class K, class V>
+PyObject *dict_of(const C &c, K key, V value) {
+    PyObject *out = PyDict_New();
+    for (const auto &e : c) {
+        PyObject *k = out ? key(e) : nullptr, *v = k ? value(e) : nullptr;
+        if (!v || PyDict_SetItem(out, k, v) < 0) Py_CLEAR(out);
+        Py_XDECREF(k);
+        Py_XDECREF(v);
+        if (!out) return nullptr;
+    }
+    return out;
+}
+
+template <int I>
+PyObject *maybe(const void *p) {
+    return p ? borrowed<I>(p) : Py_NewRef(Py_None);
+}
+
+// (object, value) of a state set's pair: the object as a borrowed proxy of its class.
+template <int I, class P>
+PyObject *value_pair(const P &pair) {
+    return Py_BuildValue("(Nk)", maybe<I>(pair.first.get()), (unsigned long)pair.second);
+}
+
+PyObject *modes(const S::ModeList &m) {
+    return dict_of(m, [](auto &e) { return PyLong_FromUnsignedLong(e.first); },
+                   [](auto &e) { return PyLong_FromUnsignedLong(e.second); });
+}
+
+PyObject *attributes(const S::AttributeList &a) {
+    return dict_of(a, [](auto &e) { return Py_BuildValue("(ik)", (int)e.first.first, (unsigned long)e.first.second); },
+                   [](auto &e) { return value_pair<i_StateAttribute>(e.second); });
+}
+
 // read(value): the Python value behind any of the value descriptors; objects in lists come
 // back as (borrowed) proxies of their classes, matrices as owned copies.
 PyObject *read(PyObject *, PyObject *obj) {
@@ -284,6 +340,27 @@ PyObject *read(PyObject *, PyObject *obj) {
     if (auto *p = pointer<i_Vec3fList>(obj)) return list_of(*p, [](const osg::Vec3f &v) { return vec_tuple(v); });
     if (auto *p = pointer<i_Vec3dList>(obj)) return list_of(*p, vec_tuple);
     if (auto *p = pointer<i_TypeMemberPair>(obj)) return Py_BuildValue("(ik)", (int)p->first, (unsigned long)p->second);
+    if (auto *p = pointer<i_ModeList>(obj)) return modes(*p);
+    if (auto *p = pointer<i_AttributeList>(obj)) return attributes(*p);
+    if (auto *p = pointer<i_TextureModeList>(obj)) return list_of(*p, modes);
+    if (auto *p = pointer<i_TextureAttributeList>(obj)) return list_of(*p, attributes);
+    if (auto *p = pointer<i_UniformList>(obj))
+        return dict_of(*p, [](auto &e) { return PyUnicode_FromString(e.first.c_str()); },
+                       [](auto &e) { return value_pair<i_Uniform>(e.second); });
+    if (auto *p = pointer<i_DefineList>(obj))
+        return dict_of(*p, [](auto &e) { return PyUnicode_FromString(e.first.c_str()); },
+                       [](auto &e) { return Py_BuildValue("(sk)", e.second.first.c_str(), (unsigned long)e.second.second); });
+    if (auto *p = pointer<i_RefAttributePair>(obj)) return value_pair<i_StateAttribute>(*p);
+    if (auto *p = pointer<i_RefUniformPair>(obj)) return value_pair<i_Uniform>(*p);
+    if (auto *p = pointer<i_DefinePair>(obj)) return Py_BuildValue("(sk)", p->first.c_str(), (unsigned long)p->second);
+    if (auto *p = pointer<i_BufferAttachmentMap>(obj))
+        return dict_of(*p, [](auto &e) { return PyLong_FromLong((long)e.first); }, [](auto &e) {
+            const osg::Camera::Attachment &a = e.second;
+            return Py_BuildValue("(kNNkkOkkii)", (unsigned long)a._internalFormat, maybe<i_Texture>(a._texture.get()),
+                                 maybe<i_Image>(a._image.get()), (unsigned long)a._level, (unsigned long)a._face,
+                                 a._mipMapGeneration ? Py_True : Py_False, (unsigned long)a._multisampleSamples,
+                                 (unsigned long)a._multisampleColorSamples, a.width(), a.height());
+        });
     return PyErr_Format(PyExc_TypeError, "read() takes a value of _osgvalues, not '%s'", Py_TYPE(obj)->tp_name);
 }
 
@@ -306,6 +383,18 @@ PyObject *elements(PyObject *, PyObject *args) {
 }
 
 PyObject *instancemethod(PyObject *, PyObject *f) { return PyInstanceMethod_New(f); }
+
+// pointer(address, type, own=False): a pointer object of the descriptor a mangled or C++ name
+// gives ("_p_osg__Node", "osg::Node *"), for memory another library hands over.
+PyObject *make_pointer(PyObject *, PyObject *args) {
+    unsigned long long address;
+    const char *name;
+    int own = 0;
+    if (!PyArg_ParseTuple(args, "Ks|p:pointer", &address, &name, &own)) return nullptr;
+    swig_type_info *ty = SWIG_Python_TypeQuery(name);
+    if (!ty) return PyErr_Format(PyExc_ValueError, "no module of the family knows the type '%s'", name);
+    return SWIG_Python_NewPointerObj((void *)(uintptr_t)address, ty, own ? SWIG_POINTER_OWN : 0);
+}
 
 // write_node(node, file name): OSG's own writer, chosen by the extension (".osgt" for the
 // native text format); False when no writer plugin can handle it.
@@ -336,6 +425,7 @@ PyMethodDef methods[] = {
     {"read", read, METH_O, "read(value) -> object\n\nThe Python value behind a value of this module's descriptors."},
     {"elements", elements, METH_VARARGS, "elements(pointer, n) -> tuple\n\nn numbers behind a float *, double * or unsigned int *."},
     {"instancemethod", instancemethod, METH_O, "instancemethod(function) -> instancemethod\n\nBinds a built-in function as a method: the instance is passed as its first argument."},
+    {"pointer", make_pointer, METH_VARARGS, "pointer(address: int, type: str, own: bool = False) -> object\n\nA pointer object of the type a mangled or C++ name gives (\"_p_osg__Node\", \"osg::Node *\") for an address from elsewhere; with own, its class's destroy function frees the object when the proxy dies."},
     {"write_node", write_node, METH_VARARGS, "write_node(node, filename: str) -> bool\n\nWrites the scene below node with OSG's writer for the file's extension."},
     {nullptr, nullptr, 0, nullptr},
 };

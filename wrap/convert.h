@@ -57,6 +57,11 @@ struct Arg<T *> {
     // disowned; one reached through a cast edge is refused before it gives up ownership.
     template <class M>
     static bool convert_exact(PyObject *o, Store &out) {
+        if (Py_TYPE(o) == SwigPyObject_cached && ((SwigPyObject *)o)->ty == descriptor<T>()) {  // as below, sooner
+            SwigPyObject_setown((SwigPyObject *)o, 0);
+            out = static_cast<T *>(((SwigPyObject *)o)->ptr);
+            return true;
+        }
         void *p = nullptr;
         SwigPyObject *matched = nullptr;
         if (SWIG_Python_ConvertPtrMatch(o, &p, descriptor<T>(), 0, &matched) != SWIG_OK ||

@@ -393,30 +393,40 @@ struct Dispatch {
     static constexpr Policy candidate_policy{P.result, false, P.take_ref};
     static constexpr auto order = try_order<C...>(TryOrder{});
 
+    // `tested` holds the arguments as the candidates' tests take them: a proxy as its pointer
+    // object, found once for all candidates rather than once a candidate.
     template <std::size_t K>
-    static bool try_one(PyObject *const *argv, Py_ssize_t argc, PyObject *&result) {
+    static bool try_one(PyObject *const *argv, PyObject *const *tested, Py_ssize_t argc, PyObject *&result) {
         using B = typename std::tuple_element_t<order[K], std::tuple<C...>>::template bound<Name, candidate_policy>;
         if ((Py_ssize_t)B::arity != argc) return false;
         typename B::Stores v{};
         SwigPyObject *self = nullptr;
-        int fit = B::probe(argv, v, self);
+        int fit = B::probe(tested, v, self);
         if (!fit) return false;
         // What the test kept is the conversion; a converter with more to say converts anew.
         result = fit == 1 ? B::invoke(v, self, argv) : B::call(argv);
         return true;
     }
 
+    static bool run(PyObject *const *argv, Py_ssize_t argc, PyObject *&result) {
+        PyObject *tested[max_arity + 1];
+        for (Py_ssize_t i = 0; i < argc; ++i) {
+            PyObject *a = argv[i];
+            bool value = a == Py_None || PyFloat_CheckExact(a) || PyLong_CheckExact(a) || PyBool_Check(a) ||
+                         PyUnicode_CheckExact(a);
+            SwigPyObject *s = value ? nullptr : SWIG_Python_GetSwigThis(a);
+            tested[i] = s ? (PyObject *)s : a;
+        }
+        return [&]<std::size_t... K>(std::index_sequence<K...>) {
+            return (try_one<K>(argv, tested, argc, result) || ...);
+        }(std::make_index_sequence<sizeof...(C)>{});
+    }
+
     static PyObject *dispatch(PyObject *args) {
         PyObject *argv[max_arity + 1] = {};
         Py_ssize_t argc = SWIG_Python_UnpackTuple(args, Static<Name>::c_str(), 0, max_arity, argv);
-        if (argc) {
-            --argc;
-            PyObject *result = nullptr;
-            bool found = [&]<std::size_t... K>(std::index_sequence<K...>) {
-                return (try_one<K>(argv, argc, result) || ...);
-            }(std::make_index_sequence<sizeof...(C)>{});
-            if (found) return result;
-        }
+        PyObject *result = nullptr;
+        if (argc && run(argv, argc - 1, result)) return result;
         SWIG_Python_RaiseOrModifyTypeError(message.v);
         return nullptr;
     }
@@ -430,9 +440,7 @@ struct Dispatch {
     static constexpr Py_ssize_t min_args = 0, max_args = max_arity;
     static PyObject *fast(PyObject *const *args, Py_ssize_t argc) {
         PyObject *result = nullptr;
-        bool found = [&]<std::size_t... K>(std::index_sequence<K...>) {
-            return (try_one<K>(args, argc, result) || ...);
-        }(std::make_index_sequence<sizeof...(C)>{});
+        bool found = run(args, argc, result);
         if (!found) SWIG_Python_RaiseOrModifyTypeError(message.v);
         if constexpr (P.not_implemented) return not_implemented(found ? result : nullptr);
         return found ? result : nullptr;
@@ -644,6 +652,7 @@ constexpr auto cxx_member() {
     else if constexpr (s == "__imul__") return Text("operator *=");
     else if constexpr (s == "__itruediv__") return Text("operator /=");
     else if constexpr (s == "__call__") return Text("operator ()");
+    else if constexpr (s == "__getitem__" || s == "__setitem__") return Text("operator []");
     else return Suffix;
 }
 
