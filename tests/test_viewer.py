@@ -57,6 +57,7 @@ def test_own_display_reused_stopped_and_display_taken_from_the_environment(run_p
         import json, os, subprocess, sys, osg, osgViewer
         osgViewer.render(osg.Group(), 8, 8)
         first = osgViewer._xvfb
+        osgViewer._viewers.clear()  # their graphics contexts leave: our own connection keeps Xvfb
         osgViewer.render(osg.Group(), 8, 8), osgViewer.render(osg.Group(), 16, 8)
         child = subprocess.run([sys.executable, "-c", f"import sys; sys.path[:] = {sys.path!r}; import osg, osgViewer; "
                                 "osgViewer.render(osg.Group(), 8, 8); print(osgViewer._xvfb, osgViewer._display)"],
