@@ -9,11 +9,14 @@ offscreen viewer:
   (_framefloor, bench/framefloor.cpp, a module only this benchmark loads): the floor for Python
   driving it.
 
-Each is timed ROUNDS times, interleaved, and the best round kept (the machine is shared). Prints
-the figures and the ratio of a Python-driven frame to the C++ one; asserts nothing.
+Each runs ROUNDS times, interleaved, with every frame timed alone. The machine is shared, so the
+figure of each is its lower quartile of frame times (the frames others left alone), beside the
+median. Prints the figures and the ratio of a Python-driven frame to the C++ one; asserts
+nothing.
 
     tools/toolchain.sh python3 bench/frames.py [FRAMES]"""
 import os
+import statistics
 import sys
 import time
 
@@ -43,20 +46,24 @@ def start():
 
 def python(frames):
     _, state = start()
-    begin = time.perf_counter()
+    clock, seconds = time.perf_counter, []
     for i in range(WARM, WARM + frames):
+        begin = clock()
         falling.step(state, i * falling.DT)
         VIEWER.frame()
-    return time.perf_counter() - begin
+        seconds.append(clock() - begin)
+    return seconds
 
 
 def render(frames):
     root, state = start()
-    begin = time.perf_counter()
+    clock, seconds = time.perf_counter, []
     for i in range(WARM, WARM + frames):
+        begin = clock()
         falling.step(state, i * falling.DT)
         osgViewer.render(root, WIDTH, HEIGHT, falling.EYE, falling.CENTER, bodies.UP)
-    return time.perf_counter() - begin
+        seconds.append(clock() - begin)
+    return seconds
 
 
 def cxx(frames, draw=True):
@@ -69,25 +76,29 @@ def cxx(frames, draw=True):
 def steps(frames):
     """Python's steps alone: what it adds to a frame, without the drawing's noise."""
     _, state = start()
-    begin = time.perf_counter()
+    clock, seconds = time.perf_counter, []
     for i in range(WARM, WARM + frames):
+        begin = clock()
         falling.step(state, i * falling.DT)
-    return time.perf_counter() - begin
+        seconds.append(clock() - begin)
+    return seconds
 
 
 def main():
     frames = int(sys.argv[1]) if len(sys.argv) > 1 else 300
     runs = {"python": python, "render": render, "C++": cxx, "python steps": steps,
             "C++ steps": lambda n: cxx(n, draw=False)}
-    best = {name: [] for name in runs}
+    times = {name: [] for name in runs}
     for _ in range(ROUNDS):
         for name, run in runs.items():
-            best[name].append(run(frames))
-    ms = {name: 1000 * min(v) / frames for name, v in best.items()}
-    print(f"36 bodies, {WIDTH}x{HEIGHT}, {frames} frames, best of {ROUNDS}:")
+            times[name] += run(frames)
+    ms = {name: 1000 * statistics.quantiles(v, n=4)[0] for name, v in times.items()}
+    median = {name: 1000 * statistics.median(v) for name, v in times.items()}
+    print(f"36 bodies, {WIDTH}x{HEIGHT}, {ROUNDS} x {frames} frames each; lower quartile (median) of a frame:")
     for name in ("python", "render", "C++"):
-        print(f"  {name:7} {1000 / ms[name]:7.1f} frames per second  {ms[name]:7.3f} ms a frame")
-    print(f"  python / C++ {ms['python'] / ms['C++']:.3f}   render / C++ {ms['render'] / ms['C++']:.3f}")
+        print(f"  {name:7} {1000 / ms[name]:7.1f} frames per second  {ms[name]:7.3f} ms a frame  ({median[name]:.3f} ms)")
+    print(f"  python / C++ {ms['python'] / ms['C++']:.3f} ({median['python'] / median['C++']:.3f})   "
+          f"render / C++ {ms['render'] / ms['C++']:.3f} ({median['render'] / median['C++']:.3f})")
     share = ms["python steps"] - ms["C++ steps"]
     print(f"  the steps alone: Python {ms['python steps']:.3f} ms, C++ {ms['C++ steps']:.3f} ms a frame; Python adds "
           f"{share:.3f} ms to a {ms['C++']:.3f} ms frame: {(ms['C++'] + share) / ms['C++']:.3f} x")
