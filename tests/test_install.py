@@ -36,7 +36,7 @@ def test_pip_install_in_a_fresh_virtual_environment():
                    "--config-settings", f"build-dir={os.path.join(tmp, 'build')}", CHECKOUT)
         assert "Successfully installed osg-binding-0.1.0" in proc.stdout
         site = run(python, "-c", "import sysconfig; print(sysconfig.get_path('platlib'))").stdout.strip()
-        stubbed, packages = ["_osg", "_osgvalues", "_osgDB", "_osgdraw"], ["osg", "osgDB"]
+        stubbed, packages = ["_osg", "_osgvalues", "_osgDB", "_osgdraw", "_osgViewer"], ["osg", "osgDB", "osgViewer"]
         assert sorted(os.listdir(site)) == sorted([
             *(f"{m}{end}" for m in stubbed for end in ("-stubs", ".cpython-314-x86_64-linux-gnu.so", ".pyi")),
             "_osgproxy.cpython-314-x86_64-linux-gnu.so", "libzogOSG.so", *packages,

@@ -186,6 +186,8 @@ def package_stub(model, package):
             lines.append("    __swig_destroy__: Callable[[Any], None]")
         if cls.constructible and cls.new:
             lines.append(overloads(model, "__init__", package_forms(model, names, cls.new, True), "self", indent="    "))
+        else:  # the abstract __init__, which raises
+            lines.append("    def __init__(self, *args: Any) -> None: ...")
         for row in cls.methods:
             if row.attr in ("__eq__", "__ne__"):
                 lines.append(f"    def {row.attr}(self, other: object, /) -> bool: ...")
