@@ -21,7 +21,7 @@ pytestmark = [pytest.mark.skipif(bool(missing), reason=f"no {', '.join(missing)}
 def run(*cmd, cwd=None, codes=(0,)):
     env = {k: v for k, v in os.environ.items() if k not in ("LD_LIBRARY_PATH", "PYTHONPATH", "MYPYPATH")}
     env["CMAKE_BUILD_PARALLEL_LEVEL"] = str(os.cpu_count() or 1)
-    proc = subprocess.run(cmd, cwd=cwd, env=env, capture_output=True, text=True, timeout=900)
+    proc = subprocess.run(cmd, cwd=cwd, env=env, capture_output=True, text=True, timeout=1800)
     assert proc.returncode in codes, proc.stdout[-3000:] + proc.stderr[-3000:]
     return proc
 
