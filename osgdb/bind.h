@@ -10,7 +10,10 @@ namespace osgdb {
 
 using Types = wrap::TypeTable<wrap::Type<osg::Referenced, "osg::Referenced">, wrap::Type<osg::Object, "osg::Object">,
                               wrap::Type<osg::Node, "osg::Node">, wrap::Type<osg::Image, "osg::Image">,
-                              wrap::Type<std::string, "std::string">>;
+                              wrap::Type<std::string, "std::string">, wrap::Type<osgDB::Registry, "osgDB::Registry">,
+                              wrap::Type<osgDB::Options, "osgDB::Options">,
+                              wrap::Type<osgDB::ReaderWriter::ReadResult, "osgDB::ReaderWriter::ReadResult">,
+                              wrap::Type<osgDB::ReaderWriter::WriteResult, "osgDB::ReaderWriter::WriteResult">>;
 
 }  // namespace osgdb
 

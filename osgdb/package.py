@@ -1,9 +1,7 @@
-# Written, not generated: the osgDB package raises where OSG's functions return nothing.
+# Written, not generated: the osgDB package raises where OSG's functions return nothing, with the
+# reason OSG's registry gives.
 import errno as _errno
 import os as _os
-
-_flat_read_node, _flat_read_image = readNodeFile, readImageFile
-_flat_write_node, _flat_write_image = writeNodeFile, writeImageFile
 
 
 def _missing(filename):
@@ -11,31 +9,29 @@ def _missing(filename):
         raise FileNotFoundError(_errno.ENOENT, _os.strerror(_errno.ENOENT), filename)
 
 
-def readNodeFile(filename):
+def _check(result, filename):
+    if not result.success():
+        raise OSError(f"{filename}: {result.statusMessage()}")
+    return result
+
+
+def readNodeFile(filename: str) -> osg.Node:
     """The scene in the file, as a proxy of its root's own class."""
     _missing(filename)
-    node = _flat_read_node(filename)
-    if node is None:
-        raise OSError(f"{filename}: OpenSceneGraph could not read a scene from it")
-    return node
+    return _check(Registry.instance().readNode(filename, None), filename).takeNode()
 
 
-def readImageFile(filename):
+def readImageFile(filename: str) -> osg.Image:
     """The image in the file."""
     _missing(filename)
-    image = _flat_read_image(filename)
-    if image is None:
-        raise OSError(f"{filename}: OpenSceneGraph could not read an image from it")
-    return image
+    return _check(Registry.instance().readImage(filename, None), filename).takeImage()
 
 
-def writeNodeFile(node, filename):
+def writeNodeFile(node: osg.Node, filename: str) -> None:
     """Writes the scene below node, in the format of the file's extension."""
-    if not _flat_write_node(node, filename):
-        raise OSError(f"{filename}: OpenSceneGraph could not write a scene to it")
+    _check(Registry.instance().writeNode(node, filename, None), filename)
 
 
-def writeImageFile(image, filename):
+def writeImageFile(image: osg.Image, filename: str) -> None:
     """Writes the image, in the format of the file's extension."""
-    if not _flat_write_image(image, filename):
-        raise OSError(f"{filename}: OpenSceneGraph could not write an image to it")
+    _check(Registry.instance().writeImage(image, filename, None), filename)

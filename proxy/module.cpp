@@ -341,9 +341,11 @@ PyType_Slot method_slots[] = {
     {0, nullptr},
 };
 
+// Immutable, so that the interpreter specializes an attribute lookup that finds one (a
+// descriptor of a mutable type could change what it does between lookups).
 PyType_Spec method_spec = {"_osgproxy.method", sizeof(Method), 0,
                            Py_TPFLAGS_DEFAULT | Py_TPFLAGS_HAVE_VECTORCALL | Py_TPFLAGS_METHOD_DESCRIPTOR |
-                               Py_TPFLAGS_DISALLOW_INSTANTIATION,
+                               Py_TPFLAGS_DISALLOW_INSTANTIATION | Py_TPFLAGS_IMMUTABLETYPE,
                            method_slots};
 PyObject *make(PyObject *flat, Mode mode, bool cast, bool own, PyObject *edge, PyObject *read) {
     if (!PyCFunction_Check(flat)) return PyErr_Format(PyExc_TypeError, "a flat function is required, not '%s'",

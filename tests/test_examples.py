@@ -1,7 +1,10 @@
-"""The examples run and print what their scenes hold."""
+"""The examples run and print what their scenes hold; their pictures show them."""
 import os
+import re
 import subprocess
 import sys
+
+from PIL import Image
 
 HERE = os.path.dirname(__file__)
 
@@ -13,22 +16,37 @@ def run(name, *args):
     return proc.stdout
 
 
-def test_scene_tree_with_world_positions(tmp_path):
-    out = run("scene.py", str(tmp_path / "scene.osgt"))
-    assert out.splitlines() == [
-        "Group 'root' at (0, 0, 0)",
-        "    MatrixTransform 'base' at (0, 0, 5)",
-        "        PositionAttitudeTransform 'arm' at (3, 0, 5)",
-        "            Geode 'hand' at (3, 0, 5)",
-        "            MatrixTransform 'finger' at (3, 1, 5)",  # (1, 0, 0) turned a quarter about z
-        "    Switch 'options' at (0, 0, 0)",
-        "        Geode 'shown' at (0, 0, 0), on",
-        "        Geode 'hidden' at (0, 0, 0), off",
-        "    ClipNode 'clip' at (0, 0, 0), 6 clip planes",
-        f"written to {tmp_path / 'scene.osgt'}",
+def test_scene_tree_picture_and_file(tmp_path):
+    osgt, png = tmp_path / "scene.osgt", tmp_path / "scene.png"
+    lines = run("scene.py", str(osgt), str(png)).splitlines()
+    assert lines[:6] + lines[-4:] == [
+        "Group 'world' at (0, 0, 0)",
+        "    LightSource 'sun' at (0, 0, 0)",
+        "    MatrixTransform 'ground' at (0, 0, 0)",
+        "        ShapeDrawable 'ground' at (0, 0, 0)",
+        "    Group 'bodies' at (0, 0, 0)",
+        "        MatrixTransform 'crate' at (-2.2, 1.2, 0.6)",  # a 1.2 cube resting on the ground
+        "        MatrixTransform 'lying pill' at (2.6, 0.4, 0.3)",  # a capsule of radius 0.3 on its side
+        "            ShapeDrawable 'lying pill' at (2.6, 0.4, 0.3)",
+        f"written to {osgt}",
+        f"drawn to {png}",
     ]
-    text = (tmp_path / "scene.osgt").read_text()
-    assert all(f'Name "{n}"' in text for n in ("root", "arm", "finger", "hidden"))
+    assert "        MatrixTransform 'small crate' at (-2.2, 1.2, 1.55)" in lines  # on the crate: 1.2 + 0.35
+    with Image.open(png) as picture:
+        sky, middle = picture.convert("RGB").getpixel((5, 5)), picture.getpixel((320, 240))
+        assert picture.size == (640, 480) and all(abs(a - b) <= 1 for a, b in zip(sky, (158, 191, 230)))
+        assert middle[1] > 1.5 * middle[0]  # the green ball
+
+
+def test_shapes_written_for_a_viewer_and_bodies_falling(tmp_path):
+    assert run("shapes.py", str(tmp_path / "shapes.osgt")) == f"7 bodies on the ground, written to {tmp_path / 'shapes.osgt'}\n"
+    text = (tmp_path / "shapes.osgt").read_text()
+    assert text.count("osg::ShapeDrawable") == 8 and all(f'Name "{n}"' in text for n in ("ground", "marble", "pill"))
+    out = run("falling.py", str(tmp_path / "falling.gif"), "3")
+    assert re.fullmatch(rf"36 bodies, 3 frames of 640x480: [0-9.]+ frames per second stepped and drawn; "
+                        rf"written to {re.escape(str(tmp_path / 'falling.gif'))}\n", out)
+    with Image.open(tmp_path / "falling.gif") as gif:
+        assert (gif.n_frames, gif.size) == (3, (320, 240))
 
 
 def test_state_set():

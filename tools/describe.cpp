@@ -50,16 +50,20 @@ void candidate(std::string &out, const wrap::CandidateInfo &c) {
            ", \"own\": " + std::to_string(c.result.own) + "}}";
 }
 
-// The descriptor a class hook registers: _p_<namespace>__<Class>.
+// The descriptor a class hook registers: _p_<namespace>__<Class>, or else the one class nested
+// deeper of that name (osgDB::ReaderWriter::ReadResult's ReadResult).
 std::string hook_descriptor(std::string_view cls) {
     const wrap::ModuleTables &tables = wrap::module_tables();
+    std::string_view nested;
+    int count = 0;
     for (std::size_t i = 0; i < tables.type_count; ++i) {
         std::string_view n = tables.types[i]->name;
-        if (n.starts_with("_p_") && n.ends_with("__" + std::string(cls)) &&
-            n.find("__") == n.size() - cls.size() - 2)
-            return quoted(n);
+        if (!n.starts_with("_p_") || !n.ends_with("__" + std::string(cls))) continue;
+        if (n.find("__") == n.size() - cls.size() - 2) return quoted(n);
+        nested = n;
+        ++count;
     }
-    return "null";
+    return count == 1 ? quoted(nested) : "null";
 }
 
 PyObject *describe(PyObject *, PyObject *) {

@@ -175,10 +175,12 @@ def out_forms(model, row):
     return forms
 
 
-def out_maker(model, p):
+def out_maker(model, p, package):
     if p.descriptor in CELLS:
         return f"_v.{CELLS[p.descriptor][0]}()"
-    return f"{model.by_descriptor[p.descriptor].name}()"
+    cls = model.by_descriptor[p.descriptor]
+    home = model.package(cls.module)
+    return f"{cls.name}()" if home == package else f"{home}.{cls.name}()"  # osgViewer's out-parameters are osg's vectors
 
 
 def python_function(model, row, name, member, indent):
@@ -196,7 +198,7 @@ def python_function(model, row, name, member, indent):
             else:
                 passed.append(f"args[{next(it)}]")
         for v, p in outs:
-            lines.append(f"        {v} = {out_maker(model, p)}")
+            lines.append(f"        {v} = {out_maker(model, p, model.package(row.module))}")
         lines.append(f"        r = {row.flat}({pre}{', '.join(passed)})")
         values = [f"{v}.value" if p.descriptor in CELLS else v for v, p in outs]
         kind = c.result["kind"]
@@ -290,7 +292,7 @@ def generate(model, package, extra=""):
     # osg first, and _osg first of all: the module that starts the ring (see wrap/README.md).
     imports = "\n".join(["import osg", "import _osg", "import _osgvalues as _v"] * (package != "osg") +
                         [f"import {m}" for m in modules] +
-                        [f"from {p} import {', '.join(sorted(b for c in classes for b in c.bases if model.package(model.classes[b].module) == p))}"
+                        [f"from {p} import {', '.join(sorted({b for c in classes for b in c.bases if model.package(model.classes[b].module) == p}))}"
                          for p in foreign])
     if package == "osg":
         parts = [HEADER.format(doc=DOCS[package], imports=imports)]

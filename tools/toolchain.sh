@@ -35,6 +35,7 @@ test    python3-numpy               tests and examples use them; the modules do 
 test    python3-pil
 bench   nanobind-dev                the benchmark's peer module, bench/nbpeer.cpp
 bench   linux-perf                  for profiling the benchmark by hand
+bench   python3-numpy               bench/arrays.py and bench/soak.py
 render  xvfb                        offscreen rendering: an X server without a screen
 render  xauth                       xvfb-run needs it
 render  libgl1-mesa-dri             Mesa's software OpenGL
