@@ -167,6 +167,15 @@ def heap_bytes():
     return _asan_heap() if _asan_heap else libc.mallinfo2().uordblks
 
 
+zog = ctypes.CDLL(os.path.join(BUILD, "libzogOSG.so"))
+zog.zog_stub_reference_calls.restype = zog.zog_stub_unreference_calls.restype = ctypes.c_ulong
+
+
+def sdk_calls():
+    """The platform library's reference and unreference calls so far: the SDK's stub counts them."""
+    return zog.zog_stub_reference_calls(), zog.zog_stub_unreference_calls()
+
+
 def rss_bytes():
     with open("/proc/self/statm") as f:
         return int(f.read().split()[1]) * os.sysconf("SC_PAGE_SIZE")

@@ -1,19 +1,15 @@
 """_osgdraw's shapes, shape drawables, materials, lights and images: values read back against figures
 computed here, the bounds OSG tessellates, exact messages, ownership and leaks."""
 import contextlib
-import ctypes
 import math
-import os
 import sys
 
 import pytest
 
 import _osgdraw as d
 import test_leaks
-from engine_support import BUILD, V, _osg, m16, mk, raises, type_name, values  # noqa: F401 (mk)
+from engine_support import V, _osg, m16, mk, raises, sdk_calls, type_name, values  # noqa: F401 (mk)
 
-zog = ctypes.CDLL(os.path.join(BUILD, "libzogOSG.so"))
-zog.zog_stub_reference_calls.restype = zog.zog_stub_unreference_calls.restype = ctypes.c_ulong
 RGBA, RGB, LUMINANCE, ALPHA, UBYTE, FLOAT = 0x1908, 0x1907, 0x1909, 0x1906, 0x1401, 0x1406  # gl.h's values
 DESTROY = {"osg::LightSource *": _osg.delete_Group, "osg::Matrixd *": _osg.delete_Matrixd,
            "osg::Vec4f *": _osg.delete_Vec4f}
@@ -103,10 +99,6 @@ def test_light_source_in_a_group(mk, own):
     assert _osg.StateSet_getMode(_osg.Node_getStateSet(source), enum(0x4002)) == _osg.StateAttribute_ON
     _osg.delete_Group(source)
     assert sdk_calls() == (refs + 1, unrefs + 1) and _osg.Group_getNumChildren(root) == 1
-
-
-def sdk_calls():
-    return zog.zog_stub_reference_calls(), zog.zog_stub_unreference_calls()
 
 
 # s, t, r, pixel format, data type, packing (None: the short form), bytes per pixel

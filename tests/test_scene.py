@@ -2,22 +2,13 @@
 switches, clip boxes, smoothing of a real mesh (its functions' leak tests are test_leaks')."""
 import ctypes
 import math
-import os
 
 import pytest
 
-from engine_support import BUILD, V, _osg, _osgpeer, free_borrowed, m16, mk, plain, point, raises, type_name  # noqa: F401
+from engine_support import V, _osg, _osgpeer, free_borrowed, m16, mk, plain, point, raises, sdk_calls, type_name  # noqa: F401
 from test_draw_geometry import D, mesh
 from scene_rows import NODES
 from test_dispatch import overload_message
-
-zog = ctypes.CDLL(os.path.join(BUILD, "libzogOSG.so"))
-zog.zog_stub_reference_calls.restype = zog.zog_stub_unreference_calls.restype = ctypes.c_ulong
-
-
-def calls():
-    return zog.zog_stub_reference_calls(), zog.zog_stub_unreference_calls()
-
 
 # ---- scenes ------------------------------------------------------------------------------
 
@@ -128,7 +119,7 @@ def test_transform_accessors(made, mk):
 
 
 def test_reference_counts_and_ownership(run_py):
-    before = calls()
+    before = sdk_calls()
     for cls in NODES[1:]:
         p = getattr(_osg, f"new_{cls}")()
         assert p.own() and type_name(p) == f"osg::{cls} *" and _osg.Referenced_referenceCount(p) == 1
@@ -140,7 +131,7 @@ def test_reference_counts_and_ownership(run_py):
         _osg.intrusive_ptr_release(p)
     node = _osg.new_Node()
     assert _osg.Referenced_referenceCount(node) == 1
-    assert [a - b for a, b in zip(calls(), before)] == [16, 16]  # the plain node calls neither
+    assert [a - b for a, b in zip(sdk_calls(), before)] == [16, 16]  # the plain node calls neither
     _osg.delete_Referenced(node)
     # A proxy dies while its node has a parent: the parent keeps the node.
     out, _ = run_py("""
@@ -164,11 +155,10 @@ def test_reference_counts_and_ownership(run_py):
 
 def test_camera_proxies_are_refused(made):
     g = made(_osg.new_Group())
-    raises(TypeError, "in method 'Node_getNodeMask', argument 1 of type 'osg::Node const *'", _osg.Node_getNodeMask, camera())
-    raises(TypeError, "in method 'Group_addChild', argument 2 of type 'osg::Node *'", _osg.Group_addChild, g, camera())
-    raises(TypeError, "in method 'Transform_getReferenceFrame', argument 1 of type 'osg::Transform const *'",
-           _osg.Transform_getReferenceFrame, camera())
-    raises(TypeError, "in method 'delete_Group', argument 1 of type 'osg::Group *'", _osg.delete_Group, camera())
+    for f, before, n, spelled in [("Node_getNodeMask", (), 1, "osg::Node const *"), ("Group_addChild", (g,), 2, "osg::Node *"),
+                                  ("Transform_getReferenceFrame", (), 1, "osg::Transform const *"),
+                                  ("delete_Group", (), 1, "osg::Group *")]:
+        raises(TypeError, f"in method '{f}', argument {n} of type '{spelled}'", getattr(_osg, f), *before, camera())
 
 
 def test_node_values(made, mk):
