@@ -138,6 +138,15 @@ def raises(exc, message, fn, *args):
     assert str(info.value) == message, f"\n got:  {str(info.value)!r}\n want: {message!r}"
 
 
+def refuse(*rows):
+    """Each row (exception, function name, argument number, C++ type, arguments) raises the message of
+    that argument; a name led by "!" takes the null-reference form."""
+    for exc, f, n, spelled, *args in rows:
+        null, f = f.startswith("!"), f.lstrip("!")
+        raises(exc, f"{'invalid null reference ' * null}in method '{f}', argument {n} of type '{spelled}'",
+               getattr(_osg, f), *args)
+
+
 def run_child(module, function):
     """Runs module.function() in a fresh interpreter, so that class registration stays out of
     this process; returns its standard output."""
