@@ -7,10 +7,13 @@ import pytest
 from engine_support import ELEMENT, SIZE, VECTORS, _osg, at, mk, raises, type_name, values  # noqa: F401
 
 
+def family(kind):
+    return SIZE[kind], lambda member, *args: getattr(_osg, f"{kind}_{member}")(*args), getattr(_osg, f"new_{kind}")
+
+
 @pytest.mark.parametrize("kind", VECTORS)
 def test_arithmetic(mk, kind):
-    n, f = SIZE[kind], lambda member, *args: getattr(_osg, f"{kind}_{member}")(*args)
-    new = getattr(_osg, f"new_{kind}")
+    n, f, new = family(kind)
     a, b = mk(new(*range(1, n + 1))), mk(new(*[2] * n))
     av = values(a, kind)
     assert f("__mul__", a, b) == 2 * sum(av)  # dot product: a float
@@ -32,8 +35,7 @@ def test_arithmetic(mk, kind):
 
 @pytest.mark.parametrize("kind", VECTORS)
 def test_comparisons_and_validity(mk, kind):
-    n, f = SIZE[kind], lambda member, *args: getattr(_osg, f"{kind}_{member}")(*args)
-    new = getattr(_osg, f"new_{kind}")
+    n, f, new = family(kind)
     a, same, greater = mk(new(*[1] * n)), mk(new(*[1] * n)), mk(new(*[1] * (n - 1) + [2]))
     assert (f("__eq__", a, same), f("__ne__", a, same), f("__lt__", a, same)) == (True, False, False)
     assert (f("__eq__", a, greater), f("__ne__", a, greater), f("__lt__", a, greater), f("__lt__", greater, a)) == \
@@ -65,8 +67,7 @@ def test_accessors_are_pointers_into_the_vector(mk, kind):
 
 @pytest.mark.parametrize("kind", VECTORS)
 def test_raw_storage_copies_through_element_pointers(mk, kind):
-    n, element, f = SIZE[kind], ELEMENT[kind], lambda member, *args: getattr(_osg, f"{kind}_{member}")(*args)
-    new = getattr(_osg, f"new_{kind}")
+    (n, f, new), element = family(kind), ELEMENT[kind]
     v, w = mk(new()), mk(new(*range(10, 10 + n)))
     first = f("x", v)  # taken before the write, it sees it
     assert f("_v_set", v, f("_v_get", w)) is None
