@@ -160,8 +160,7 @@ def test_planes(mk):
     up = mk.Vec3d(0, 0, 2)
     by_normal = mk.Plane(up, -4.0)
     through = mk.Plane(up, mk.Vec3d(0, 0, 2))  # normal and point
-    assert at(_osg.Plane_ptr(by_normal), "double", 4) == [0, 0, 2, -4]
-    assert at(_osg.Plane_ptr(through), "double", 4) == [0, 0, 2, -4]
+    assert [at(_osg.Plane_ptr(p), "double", 4) for p in (by_normal, through)] == [[0, 0, 2, -4]] * 2
     with pytest.raises(TypeError, match="overloaded function 'new_Plane'"):
         _osg.new_Plane(mk.Vec3f(0, 0, 1), 2.0)  # the normal must be a Vec3d
     normal = _osg.Plane_getNormal(by_normal)
