@@ -134,8 +134,10 @@ def raises(exc, message, fn, *args):
     """fn(*args) raises exactly exc with exactly this text."""
     with pytest.raises(exc) as info:
         fn(*args)
-    assert type(info.value) is exc, f"{type(info.value).__name__}: {info.value}"
-    assert str(info.value) == message, f"\n got:  {str(info.value)!r}\n want: {message!r}"
+    kind, text = type(info.value), str(info.value)
+    del info  # its traceback holds this frame and the callers': no cycle may keep the arguments alive
+    assert kind is exc, f"{kind.__name__}: {text}"
+    assert text == message, f"\n got:  {text!r}\n want: {message!r}"
 
 
 def refuse(*rows):
