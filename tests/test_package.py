@@ -106,3 +106,45 @@ def test_conversions_at_the_edge_and_out_parameters(run_py):
         "getPerspective: no valid values",
         "osg.Vec3f(0.0, 0.0, 5.0) osg.Vec3f(0.0, 1.0, 0.0)",
     ]
+
+
+def test_hierarchy_own_class_results_and_lifetimes(run_py):
+    out, err = run_py("""
+        import _osg
+        g, c = _osg.new_Group(), _osg.new_Camera()
+        try:
+            _osg.Group_addChild(g, c)  # _osg alone: a camera is no node
+        except TypeError as e:
+            print(e)
+        import _osgproxy  # declares OSG's bases: the same call now takes it
+        print(_osg.Group_addChild(g, c), _osg.Group_getNumChildren(g))
+        c.disown()  # the group's now
+        _osg.delete_Group(g)
+
+        import gc, osg
+        print([b.__name__ for b in osg.Camera.__mro__[:6]], [b.__name__ for b in osg.Texture2D.__mro__[:4]],
+              [b.__name__ for b in osg.RefMatrixd.__mro__[:4]])
+        root, state = osg.Group(), osg.StateSet()
+        kids = [osg.Geode(), osg.MatrixTransform(), osg.ClipNode(), osg.Camera(), osg.Switch()]
+        for k in kids:
+            root.addChild(k)
+        state.setTextureAttributeAndModes(0, osg.Texture2D())
+        root.setStateSet(state)
+        got = [root.getChild(i) for i in range(len(kids))]
+        print([type(k).__name__ for k in got], type(root.getStateSet().getTextureAttribute(0, osg.StateAttribute.TEXTURE)).__name__,
+              type(kids[1].getParent(0)).__name__, type(root.getChild(1).asTransform()).__name__)
+        print(got == kids, [hash(a) == hash(b) for a, b in zip(got, kids)], got[0] == got[1], got[0] != kids[0])
+        camera = kids[3]
+        del kids, got
+        gc.collect()
+        print(camera.referenceCount())  # the group's and the proxy's
+        del camera
+        print(root.getChild(3).referenceCount(), isinstance(root.getChild(3), osg.Transform))
+    """)
+    assert out.splitlines() == [
+        "in method 'Group_addChild', argument 2 of type 'osg::Node *'", "True 1",
+        "['Camera', 'Transform', 'Group', 'Node', 'Object', 'Referenced'] ['Texture2D', 'StateAttribute', 'Object', "
+        "'Referenced'] ['RefMatrixd', 'Matrixd', '_Sequence', 'Object']",
+        "['Geode', 'MatrixTransform', 'ClipNode', 'Camera', 'Switch'] Texture2D Group MatrixTransform",
+        "True [True, True, True, True, True] False False", "2", "1 True"]
+    assert err == ""  # no leak note for cameras or textures
