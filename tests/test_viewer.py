@@ -21,7 +21,8 @@ def pixels(image):
 box = osg.ShapeDrawable(osg.Box(osg.Vec3f(0, 0, 0), 1))
 box.setColor(osg.Vec4f(1, 0, 0, 1))
 box.getOrCreateStateSet().setMode(0x0B50, osg.StateAttribute.OFF)  # GL_LIGHTING off: the box is exactly its colour
-blue, camera = osg.Vec4f(0, 0, 1, 1), osgViewer.Viewer().getCamera()
+blue, viewer = osg.Vec4f(0, 0, 1, 1), osgViewer.Viewer()
+camera = viewer.getCamera()  # borrowed: valid while the viewer lives
 print(json.dumps({{"fovy": camera.getProjectionMatrixAsPerspective()[0],
                   "clear": [round(c * 255) for c in camera.getClearColor()],
                   "home": pixels(osgViewer.render(box, {W}, {H}, clear=blue)),
