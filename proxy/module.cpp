@@ -150,6 +150,8 @@ struct Method {
     bool own;        // init: Python takes the new object's reference
     PyObject *edge;  // {argument count: (converter or None, ...)}, a converter being (types, maker)
     PyObject *read;  // (classes, reader): results of these classes read back as Python values
+    PyTypeObject *owner;  // the class it was set on as a method, whose instances it takes as argument 1
+    PyObject *name;       // its name there
 };
 
 // Python values converted where the row declares a value of _osgvalues: a str for a
@@ -238,6 +240,15 @@ PyObject *method_call(PyObject *callable, PyObject *const *args, size_t nargsf, 
                 r = failed ? nullptr : Py_NewRef(Py_None);
             }
         }
+    } else if (m->owner && (n < 1 || !PyObject_TypeCheck(args[0], m->owner))) {
+        // Called through the class with something else as the object: the flat function would
+        // take None as a null object and run the member on it.
+        if (n < 1)
+            PyErr_Format(PyExc_TypeError, "descriptor '%U' of '%s' object needs an argument", m->name, m->owner->tp_name);
+        else
+            PyErr_Format(PyExc_TypeError, "descriptor '%U' for '%s' objects doesn't apply to a '%s' object", m->name,
+                         m->owner->tp_name, Py_TYPE(args[0])->tp_name);
+        r = nullptr;
     } else {
         r = finish(m, call_flat(m, args, n));
     }
@@ -287,10 +298,17 @@ PyObject *construct(PyObject *callable, PyObject *const *args, size_t nargsf, Py
 }
 
 // An init() set on a class as its __init__ makes the class construct through construct().
+// A method remembers its class, to refuse other objects as argument 1.
 PyObject *method_set_name(PyObject *self, PyObject *const *args, Py_ssize_t n) {
-    if (n == 2 && PyType_Check(args[0]) && ((Method *)self)->mode == Init &&
-        PyUnicode_Check(args[1]) && PyUnicode_EqualToUTF8(args[1], "__init__"))
-        ((PyTypeObject *)args[0])->tp_vectorcall = construct;
+    auto *m = (Method *)self;
+    if (n == 2 && PyType_Check(args[0]) && PyUnicode_Check(args[1])) {
+        if (m->mode == Init) {
+            if (PyUnicode_EqualToUTF8(args[1], "__init__")) ((PyTypeObject *)args[0])->tp_vectorcall = construct;
+        } else if (!m->owner) {
+            m->owner = (PyTypeObject *)Py_NewRef(args[0]);
+            m->name = Py_NewRef(args[1]);
+        }
+    }
     Py_RETURN_NONE;
 }
 
@@ -311,6 +329,8 @@ void method_dealloc(PyObject *self) {
     Py_XDECREF(m->module);
     Py_XDECREF(m->edge);
     Py_XDECREF(m->read);
+    Py_XDECREF(m->owner);
+    Py_XDECREF(m->name);
     type->tp_free(self);
     Py_DECREF(type);
 }
@@ -369,6 +389,8 @@ PyObject *make(PyObject *flat, Mode mode, bool cast, bool own, PyObject *edge, P
     m->own = own;
     m->edge = edge && edge != Py_None ? Py_NewRef(edge) : nullptr;
     m->read = read && read != Py_None ? Py_NewRef(read) : nullptr;
+    m->owner = nullptr;
+    m->name = nullptr;
     return (PyObject *)m;
 }
 

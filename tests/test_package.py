@@ -140,11 +140,19 @@ def test_hierarchy_own_class_results_and_lifetimes(run_py):
         print(camera.referenceCount())  # the group's and the proxy's
         del camera
         print(root.getChild(3).referenceCount(), isinstance(root.getChild(3), osg.Transform))
+        for call in (lambda: osg.Vec3f.length(None), lambda: osg.Group.addChild(osg.Vec3f(), root), osg.Vec3f.length):
+            try:
+                call()  # the flat function would run the member on a null or foreign object
+            except TypeError as e:
+                print(e)
     """)
     assert out.splitlines() == [
         "in method 'Group_addChild', argument 2 of type 'osg::Node *'", "True 1",
         "['Camera', 'Transform', 'Group', 'Node', 'Object', 'Referenced'] ['Texture2D', 'StateAttribute', 'Object', "
         "'Referenced'] ['RefMatrixd', 'Matrixd', '_Sequence', 'Object']",
         "['Geode', 'MatrixTransform', 'ClipNode', 'Camera', 'Switch'] Texture2D Group MatrixTransform",
-        "True [True, True, True, True, True] False False", "2", "1 True"]
+        "True [True, True, True, True, True] False False", "2", "1 True",
+        "descriptor 'length' for 'Vec3f' objects doesn't apply to a 'NoneType' object",
+        "descriptor 'addChild' for 'Group' objects doesn't apply to a 'Vec3f' object",
+        "descriptor 'length' of 'Vec3f' object needs an argument"]
     assert err == ""  # no leak note for cameras or textures

@@ -127,14 +127,16 @@ PyObject *special_node(PyObject *, PyObject *) {
 
 // make_image(width, height): an RGBA image the peer keeps alive.
 PyObject *make_image(PyObject *, PyObject *args) {
-    static std::vector<osg::ref_ptr<osg::Image>> images;
     int w, h;
     if (!PyArg_ParseTuple(args, "ii", &w, &h)) return nullptr;
     swig_type_info *t = find_or_raise("_p_osg__Image");
     if (!t) return nullptr;
-    images.push_back(new osg::Image);
-    images.back()->allocateImage(w, h, 1, GL_RGBA, GL_UNSIGNED_BYTE);
-    return SWIG_Python_NewPointerObj(images.back().get(), t, 0);
+    // The peer's reference is never given back, and the peer never touches the image again:
+    // a caller that releases it (the fuzz harness may) leaves nothing dangling here.
+    auto *image = new osg::Image;
+    image->ref();
+    image->allocateImage(w, h, 1, GL_RGBA, GL_UNSIGNED_BYTE);
+    return SWIG_Python_NewPointerObj(image, t, 0);
 }
 
 
@@ -375,14 +377,14 @@ PyObject *set_error_msg(PyObject *, PyObject *args) {
 
 // make_texture(width, height): a 2-D texture the peer keeps, seen as an osg::Texture.
 PyObject *make_texture(PyObject *, PyObject *args) {
-    static std::vector<osg::ref_ptr<osg::Texture2D>> textures;
     int w, h;
     if (!PyArg_ParseTuple(args, "ii", &w, &h)) return nullptr;
     swig_type_info *t = find_or_raise("_p_osg__Texture");
     if (!t) return nullptr;
-    textures.push_back(new osg::Texture2D);
-    textures.back()->setTextureSize(w, h);
-    return SWIG_Python_NewPointerObj(static_cast<osg::Texture *>(textures.back().get()), t, 0);
+    auto *texture = new osg::Texture2D;  // kept as make_image keeps its image
+    texture->ref();
+    texture->setTextureSize(w, h);
+    return SWIG_Python_NewPointerObj(static_cast<osg::Texture *>(texture), t, 0);
 }
 
 PyObject *affinity(PyObject *, PyObject *) {
