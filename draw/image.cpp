@@ -1,11 +1,10 @@
 // osg::Image: its size, layout and pixel format, OSG's own per-pixel color access and
 // transformations, and the static layout arithmetic. The pixels themselves cross as a buffer
 // view (draw/views.cpp), never as a raw pointer.
-#include "draw/object_class.h"
+#include "draw/bind.h"
+#include "wrap/object_class.h"
 
 using namespace wrap;
-using draw::constant;
-using draw::ObjectClass;
 
 namespace {
 

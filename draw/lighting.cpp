@@ -1,9 +1,8 @@
 // osg::Material, osg::Light and osg::LightSource.
-#include "draw/object_class.h"
+#include "draw/bind.h"
+#include "wrap/object_class.h"
 
 using namespace wrap;
-using draw::constant;
-using draw::ObjectClass;
 
 namespace {
 

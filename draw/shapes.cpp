@@ -1,9 +1,8 @@
 // osg::Shape and its shapes, osg::TessellationHints and osg::ShapeDrawable.
-#include "draw/object_class.h"
+#include "draw/bind.h"
+#include "wrap/object_class.h"
 
 using namespace wrap;
-using draw::constant;
-using draw::ObjectClass;
 
 namespace {
 

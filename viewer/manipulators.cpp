@@ -1,11 +1,10 @@
 // The camera manipulators: osgGA::CameraManipulator (the home position, the matrix it gives
 // the camera), osgGA::StandardManipulator, osgGA::OrbitManipulator and the trackball that
 // osgViewer::Viewer::run installs when a script sets none.
-#include "viewer/object_class.h"
+#include "viewer/bind.h"
+#include "wrap/object_class.h"
 
 using namespace wrap;
-using viewer::constant;
-using viewer::ObjectClass;
 
 namespace {
 
@@ -87,7 +86,7 @@ void add_manipulator_rows(Table &t, Constants &c) {
         constant("StandardManipulator_DEFAULT_SETTINGS", S::DEFAULT_SETTINGS),
     });
 
-    t.push_back(KO::ctor<KO::with<int>::c<i>>());
+    t.push_back(KO::ctor<TakeRef::Count, KO::with<int>::c<i>>());
     KO::meta(t);
     add(t, {
         KO::fn<"setCenter", &O::setCenter, v3>(),
@@ -112,7 +111,7 @@ void add_manipulator_rows(Table &t, Constants &c) {
     });
     KO::hooks(t);
 
-    t.push_back(KT::ctor<KT::with<int>::c<i>>());
+    t.push_back(KT::ctor<TakeRef::Count, KT::with<int>::c<i>>());
     KT::meta(t);
     KT::hooks(t);
 }

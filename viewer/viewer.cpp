@@ -2,11 +2,10 @@
 // camera of the view, the manipulator that drives it and the windows OSG opens for it. The
 // members osgViewer::View inherits from osg::View, which no module binds, are repeated under
 // its prefix.
-#include "viewer/object_class.h"
+#include "viewer/bind.h"
+#include "wrap/object_class.h"
 
 using namespace wrap;
-using viewer::constant;
-using viewer::ObjectClass;
 
 namespace {
 
@@ -97,7 +96,7 @@ void add_viewer_rows(Table &t, Constants &c) {
         constant("ViewerBase_ON_DEMAND", VB::ON_DEMAND), constant("ViewerBase_CONTINUOUS", VB::CONTINUOUS),
     });
 
-    t.push_back(KW::ctor());
+    t.push_back(KW::ctor<TakeRef::Count>());
     KW::meta(t);
     add(t, {
         KW::fn<"take", &W::take, "osg::View &">(),
@@ -139,7 +138,7 @@ void add_viewer_rows(Table &t, Constants &c) {
                        constant("View_SKY_LIGHT", osg::View::SKY_LIGHT)});
 
     // The members Viewer declares again, under its own prefix.
-    t.push_back(KV::ctor());
+    t.push_back(KV::ctor<TakeRef::Count>());
     KV::meta(t);
     add(t, {
         KV::fn<"take", &V::take, "osg::View &">(),

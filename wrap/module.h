@@ -20,6 +20,12 @@ namespace wrap {
 
 using Constants = std::vector<IntConstant>;
 
+// An enumerator as the module's integer constant, read back signed as _osg's are.
+template <class E>
+constexpr IntConstant constant(const char *name, E value) {
+    return {name, static_cast<long>(static_cast<int>(value))};
+}
+
 struct ModuleTables {
     const char *name;
     PyMethodDef *methods;

@@ -1,9 +1,13 @@
-// The rows every object class of _osgdraw repeats: its constructors with the copy pair last, the
-// META_Object members and the class hooks. One template, instantiated per class.
+// The rows every osg::Object class of a sibling module repeats: its constructors with the copy
+// pair last, the META_Object members and the class hooks. One template, instantiated per class
+// where the module's type table (its bind.h) is in scope.
 #pragma once
-#include "draw/bind.h"
+#include "wrap/engine.h"
 
-namespace draw {
+#include <osg/CopyOp>
+#include <osg/Object>
+
+namespace wrap {
 
 template <class T, wrap::Text Spelling, wrap::Text Prefix>
 struct ObjectClass : wrap::Class<T, Spelling, Prefix> {
@@ -37,10 +41,4 @@ struct ObjectClass : wrap::Class<T, Spelling, Prefix> {
     static void hooks(wrap::Table &t) { wrap::add(t, {K::register_hook(), K::init_hook()}); }
 };
 
-// An enumerator as the module's integer constant, read back signed as _osg's are.
-template <class E>
-constexpr IntConstant constant(const char *name, E value) {
-    return {name, static_cast<long>(static_cast<int>(value))};
-}
-
-}  // namespace draw
+}  // namespace wrap
