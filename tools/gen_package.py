@@ -136,7 +136,7 @@ def edge_spec(candidates, member_offset=0):
 
 
 def spec_text(spec, offset=0):
-    """The spec as Python: keyed by the count of every argument, the instance's included."""
+    """The edge conversions as Python: keyed by the count of every argument, the instance's included."""
     def one(c):
         return f"_C[{c!r}]" if c else "None"
     return "{" + ", ".join(f"{n + offset}: ({''.join(one(c) + ', ' for c in (None,) * offset + conv)})"
@@ -214,7 +214,7 @@ def python_function(model, row, name, member, indent):
 
 
 def descriptor_text(model, row, member):
-    """_m(flat, ...) for a row; its convert spec counts the instance as argument 1."""
+    """_m(flat, ...) for a row; its edge conversions count the instance as argument 1."""
     options = []
     spec = edge_spec(row.candidates)
     if spec:
