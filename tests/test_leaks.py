@@ -145,7 +145,7 @@ def flat(calls, kept):
         gc.enable()
     assert [sys.getrefcount(a) for a in kept] == refs
     assert heap_bytes() - heap < 4096 + N
-    assert sys.getallocatedblocks() - blocks < 64
+    assert sys.getallocatedblocks() - blocks < N // 8  # a leak per call is N blocks; the interpreter's own caches vary by ~100
     # ASan's quarantine holds freed memory back, so the process grows under the sanitizers.
     assert rss_bytes() - rss < 1 << 20 or os.environ.get("OSG_SANITIZED")
 
