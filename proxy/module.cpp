@@ -45,12 +45,7 @@ swig_type_info *dynamic_type(const osg::Object *o) {
 // the class. The object's own address is checked against the declared pointer through the
 // cast graph, so an object whose className() names a base (a subclass without its own) stays
 // as it was declared.
-PyObject *downcast(PyObject *result) {
-    SwigPyObject *s = SWIG_Python_GetSwigThis(result);
-    void *as_object = nullptr;
-    if (!s || !s->ptr || SWIG_Python_ConvertPtrAndOwn((PyObject *)s, &as_object, type_of<osg::Object>(), 0) != SWIG_OK)
-        return result;
-    auto *o = static_cast<osg::Object *>(as_object);
+PyObject *aim(PyObject *result, SwigPyObject *s, osg::Object *o) {
     swig_type_info *own = dynamic_type(o);
     if (!own || own == s->ty || !own->clientdata) return result;
     swig_cast_info *cast = SWIG_TypeCheck(own->name, s->ty);
@@ -69,6 +64,33 @@ PyObject *downcast(PyObject *result) {
         PyObject_SetAttrString(result, "__class__", data->klass) < 0) {
         Py_DECREF(result);
         return nullptr;
+    }
+    return result;
+}
+
+PyObject *destroy_of(swig_type_info *ty) {
+    return ty && ty->clientdata ? static_cast<SwigPyClientData *>(ty->clientdata)->destroy : nullptr;
+}
+
+// The destroy function that gives back what wrap::take_python_reference takes; a class
+// destroyed otherwise (deleted outright) is not adopted.
+PyObject *releaser(osg::Object *o) {
+    return destroy_of(dynamic_cast<osg::Group *>(o) ? type_of<osg::Group>() : type_of<osg::Referenced>());
+}
+
+// A result the flat function lends (a child, a parent, a state set) holds one OSG reference
+// while its proxy lives, given back by its class's destroy function, so that it stays valid
+// when everything else lets the object go, as an osg::ref_ptr would.
+PyObject *downcast(PyObject *result) {
+    SwigPyObject *s = SWIG_Python_GetSwigThis(result);
+    void *as_object = nullptr;
+    if (!s || !s->ptr || SWIG_Python_ConvertPtrAndOwn((PyObject *)s, &as_object, type_of<osg::Object>(), 0) != SWIG_OK)
+        return result;
+    auto *o = static_cast<osg::Object *>(as_object);
+    result = aim(result, s, o);
+    if (result && !s->own && o->referenceCount() > 0 && destroy_of(s->ty) && destroy_of(s->ty) == releaser(o)) {
+        wrap::take_python_reference(o);
+        SwigPyObject_setown(s, SWIG_POINTER_OWN);
     }
     return result;
 }
