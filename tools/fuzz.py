@@ -1,11 +1,11 @@
-"""Calls every function of _osg with random argument lists and checks that each call returns
+"""Calls every function of _osg and its sibling modules with random argument lists and checks that each call returns
 or raises a Python exception; hard crashes and hangs are caught by running the calls in
 chunks in child interpreters and replayed to a one-line reproducer.
 
     python3 tools/fuzz.py [N] [--seed S] [--chunk C]     (or ./run fuzz [N])
     python3 tools/fuzz.py --leaks     the leak tests with 10**4 calls a row (./run fuzz --leaks)
 
-The functions come from dir(_osg); a probe in a child interpreter learns each one's argument
+The functions come from dir() of each module (a sibling's named `_osgdraw.Geometry_...`); a probe in a child interpreter learns each one's argument
 counts and types from its own messages (count messages, "argument k of type 'T'", overload
 prototypes), without running it. Arguments are numbers at the edges of every integer range,
 floats with nan and inf, booleans, strings, bytes, None, tuples, lists, plain objects and
@@ -22,7 +22,9 @@ Hazards kept on purpose, which the harness never produces:
   texture units, switch positions, uniform element counts): the pairs of INDICES and SIZES get
   only integers no C++ integer type holds, so that only the overflow error is exercised.
 - GL work without a GL context: the `_apply`, `_compileGLObjects` and `_copyTex...` functions
-  never get the sibling's osg::State.
+  never get the sibling's osg::State, and what opens windows or renders (a viewer's realize,
+  run, frame...) never gets its argument 1 (it would wait for a display or draw without one).
+- Files: the calls run in a fresh temporary directory, which is all osgDB writes into.
 - Element pointers read past their end: element pointers come only from 16-element matrices,
   as long as anything reads.
 - Use after an explicit delete: an argument is never used again after its call, so neither
@@ -53,13 +55,32 @@ INDICES = {("Group_getChild", 2), ("Geode_getDrawable", 2), ("Node_getParent", 2
            ("ClipNode_getClipPlane", 2), ("Matrixd___call__", 2), ("Matrixd___call__", 3), ("Matrixf___call__", 2),
            ("Matrixf___call__", 3), ("Texture2D_getModifiedCount", 2), ("Texture2D_isDirty", 2),
            ("Switch_setValue", 2), ("Switch_setSingleChildOn", 2), ("StateSet_setTextureMode", 2),
-           ("StateSet_setTextureAttribute", 2), ("StateSet_setTextureAttributeAndModes", 2),
+           ("StateSet_setTextureAttribute", 2), ("StateSet_setTextureAttributeAndModes", 2), ("StateSet_setAssociatedTextureModes", 2),
            ("StateSet_getOrCreateUniform", 4)}
-# Sizes OSG resizes its per-context buffers to (argument 2 of every `_resizeGLObjectBuffers`).
-SIZES = re.compile(r".*_resizeGLObjectBuffers$")
+# The same in the siblings: image texels, array elements and primitive indices OSG reads or
+# writes unchecked; texture units and attribute indices it grows its lists to; image and array
+# sizes it allocates at once (too big, they throw from inside OSG, as they would in C++); and
+# image dimensions it loops over halving (a negative one never reaches zero); row packings it
+# divides by.
+ARRAYS = ["Array", "Vec2Array", "Vec3Array", "Vec4Array"]
+INDICES |= {(f"_osgdraw.{f}", k) for f, ks in [
+    ("Image_getColor", (2, 3, 4)), ("Image_setColor", (3, 4, 5)), ("Image_allocateImage", (2, 3, 4)),
+    ("Image_scaleImage", (2, 3, 4)), ("Image_copySubImage", (2, 3, 4)), ("Image_computeNumberOfMipmapLevels", (1, 2, 3)),
+    ("Image_computeImageSizeInBytes", (1, 2, 3, 6)),
+    ("Image_computeRowWidthInBytes", (4,)), ("Image_allocateImage", (7,)), ("PrimitiveSet_index", (2,)), ("DrawElementsUInt_index", (2,)),
+    ("DrawElementsUInt_getElement", (2,)), ("DrawElementsUInt_setElement", (2,)), ("Geometry_getPrimitiveSet", (2,)),
+    ("Geometry_setTexCoordArray", (2,)), ("Geometry_setVertexAttribArray", (2,)), ("new_DrawElementsUInt", (2,))]
+    + [(f"{a}_compare", (2, 3)) for a in ARRAYS] + [(f"new_{a}", (1, 2)) for a in ARRAYS] for k in ks}
+# Sizes OSG resizes its per-context buffers and its arrays to (argument 2): a size too big
+# to allocate throws from inside OSG, as it would in C++.
+SIZES = re.compile(r"(.*_)?resizeGLObjectBuffers$|.*_(reserve|resize|reserveArray|resizeArray|reserveElements|resizeElements)$")
 # GL work needs a context, which no test process has: these never get a live osg::State.
 STATE = "_osgpeer.make_state()"
 GL_WORK = re.compile(r".*_(apply|compileGLObjects|copyTexImage2D|copyTexSubImage2D)$")
+WINDOWED = re.compile(r"_osgViewer\.(\w*_(realize|run|frame|renderingTraversals|setUpView\w*|startThreading|setUpThreading"
+                      r"|advance|eventTraversal|updateTraversal|checkEvents|checkWindowStatus)|frameImage|offscreenViewer)$")
+MODULES = ["_osg", "_osgdraw", "_osgDB", "_osgViewer", "_osgproxy"]
+NAMESPACES = ["osg", "osgUtil", "osgDB", "osgViewer", "osgGA"]
 
 INTS = ["0", "1", "-1", "127", "-128", "255", "32767", "-32768", "65535", "2147483647", "-2147483648",
         "2147483648", "-2147483649", "4294967295", "4294967296", "9223372036854775807", "-9223372036854775808",
@@ -94,7 +115,14 @@ P_SHAPE, P_HINT = 0.85, 0.8  # how often a call follows a learned shape, an argu
 
 def functions(module):
     builtin = type(len)
-    return sorted(n for n in dir(module) if type(getattr(module, n)) is builtin)
+    prefix = "" if module.__name__ == "_osg" else module.__name__ + "."
+    return sorted(prefix + n for n in dir(module) if type(getattr(module, n)) is builtin)
+
+
+def callee(ns, name):
+    """The function a table name stands for: `Vec3f_length` is _osg's, `_osgDB.readNodeFile` a sibling's."""
+    module, _, fn = name.rpartition(".")
+    return getattr(ns[module or "_osg"], fn)
 
 
 def classes(module):
@@ -120,10 +148,10 @@ def split_params(text):
 def probe():
     """Runs in a child: returns the table {"tokens": [...], "groups": {...}, "shapes": {name: [[group]]}}."""
     ns = siblings()
-    _osg, _osgpeer = ns["_osg"], ns["_osgpeer"]
-    objects = [f"_osg.new_{c}()" for c in classes(_osg) if hasattr(_osg, f"new_{c}")]
+    _osgpeer = ns["_osgpeer"]
+    objects = [f"{m}.new_{c}()" for m in MODULES for c in classes(ns[m]) if hasattr(ns[m], f"new_{c}")]
     objects = [e for e in objects if _try(lambda e=e: eval(e, ns))] + PEER
-    objects += [f"type('T', (), {{'this': {e}}})()" for e in objects if e.startswith("_osg.new_")]
+    objects += [f"type('T', (), {{'this': {e}}})()" for e in objects if ".new_" in e]
     made = {e: eval(e, ns) for e in objects}
     groups = {"ints": INTS, "nums": FLOATS + INTS, "bools": BOOLS, "strs": STRS + ["None"]}
     sentinel, arg_error = object(), re.compile(r"in method '[^']*', argument (\d+) of type '(.*)'$")
@@ -142,23 +170,27 @@ def probe():
             groups[key] = [e for e in objects if _osgpeer.convert(made[e], name, 4, 0)[0] == 0]
         return key
 
+    def class_group(cls):
+        spelled = [f"{n}::{cls} *" for n in NAMESPACES if _osgpeer.type_query(f"{n}::{cls} *")]
+        return group(spelled[0]) if spelled else "any"
+
     def good(g):
         return made[groups[g][0]] if groups[g] and groups[g][0] in made else eval(groups[g][0], ns) \
             if groups[g] else None
 
-    shapes, klasses = {}, set(classes(_osg))
-    for name in functions(_osg):
-        if name.endswith("_swigregister"):
+    shapes = {}
+    for name in [n for m in MODULES for n in functions(ns[m])]:
+        short = name.rpartition(".")[2]
+        if short.endswith("_swigregister"):
             shapes[name] = [["any"]]
             continue
-        if name.endswith("_swiginit"):
-            shapes[name] = [["any", group(f"osg::{name[:-9]} *") if _osgpeer.type_query(f"osg::{name[:-9]} *")
-                             else group(f"osgUtil::{name[:-9]} *")]]
+        if short.endswith("_swiginit"):
+            shapes[name] = [["any", class_group(short[:-9])]]
             continue
-        f = getattr(_osg, name)
+        f = callee(ns, name)
         text = _message(f, [sentinel] * 20)
-        cls = name.split("_")[0] if name.split("_")[0] in klasses else None
-        self_group = group(f"osg::{cls} *") if cls and not name.startswith(("new_", "delete_")) else None
+        cls = short.split("_")[0] if short.split("_")[0] in classes(ns[name.rpartition(".")[0] or "_osg"]) else None
+        self_group = class_group(cls) if cls and not short.startswith(("new_", "delete_")) else None
         if text is None:  # a binary operator answering NotImplemented
             shapes[name] = [[self_group or "any", "any"]]
         elif "takes no arguments" in text:
@@ -184,7 +216,7 @@ def probe():
             for proto in text.split("prototypes are:\n")[1].splitlines():
                 owner, params = re.match(r"\s*(.*?)\((.*)\)( const)?$", proto.replace("()(", "_call(")).group(1, 2)
                 params = [group(p) for p in split_params(params)]
-                member = cls and not name.startswith("new_") and len(params) < top
+                member = cls and not short.startswith("new_") and len(params) < top
                 found.append(([group(owner.rsplit("::", 1)[0] + " *")] if member else []) + params)
                 if member:
                     found.append(params)  # static members look the same
@@ -229,7 +261,7 @@ def make_calls(table, seed, chunk, size):
             arg = rng.choice(pool or tokens)
             if arg == "None" and (k == 1 or (name, k) in NULL_DEREF):
                 arg = "object()"
-            if arg == STATE and GL_WORK.match(name):
+            if arg == STATE and GL_WORK.match(name) or k == 1 and WINDOWED.match(name):
                 arg = "object()"
             if ((name, k) in INDICES or (k == 2 and SIZES.match(name))) and (arg in INTS or arg in BOOLS):
                 arg = rng.choice(HUGE)
@@ -240,18 +272,15 @@ def make_calls(table, seed, chunk, size):
 
 def line(calls):
     """One line of Python that makes the calls; needs only sys.path to reach the modules."""
-    text = "; ".join(f"_osg.{name}({', '.join(args)})" for name, args in calls)
-    return f"import {', '.join(m for m in ['_osg', '_osgpeer', '_osgvalues', '_osgdraw'] if m in text)}; " + text
+    text = "; ".join(f"{'' if '.' in name else '_osg.'}{name}({', '.join(args)})" for name, args in calls)
+    return f"import {', '.join(m for m in MODULES + ['_osgpeer', '_osgvalues'] if m + '.' in text)}; " + text
 
 
 def siblings():
     """The namespace arguments are made in: _osg and the sibling modules."""
-    import _osg
-    import _osgdraw
+    import importlib
     os.environ["OSG_PEER_NO_HANDLE"] = "1"  # GLenum's class is _osgvalues', with its destroy function
-    import _osgpeer
-    import _osgvalues
-    return {"_osg": _osg, "_osgpeer": _osgpeer, "_osgvalues": _osgvalues, "_osgdraw": _osgdraw}
+    return {m: importlib.import_module(m) for m in MODULES + ["_osgpeer", "_osgvalues"]}
 
 
 def worker(table_path, seed, chunk, size, picks):
@@ -259,7 +288,6 @@ def worker(table_path, seed, chunk, size, picks):
     with open(table_path) as f:
         calls = make_calls(json.load(f), seed, chunk, size)
     ns = siblings()
-    _osg = ns["_osg"]
     made = {}
     out = os.fdopen(int(os.environ["FUZZ_FD"]), "w", buffering=1)
     for i in _picks(picks, size):
@@ -267,7 +295,7 @@ def worker(table_path, seed, chunk, size, picks):
         out.write(f"{i}\n")
         try:
             values = [eval(made.setdefault(a, compile(a, "<arg>", "eval")), ns) for a in args]
-            getattr(_osg, name)(*values)
+            callee(ns, name)(*values)
         except SystemError as e:  # null returned without an exception, or the like
             out.write(f"S {i} {e!r}\n")
         except Exception:
@@ -286,6 +314,28 @@ def _picks(text, size):
     return out
 
 
+def _cwd():
+    """The temporary directory the calls run in (what osgDB writes lands there), removed at exit."""
+    global _CWD
+    if _CWD is None:
+        import atexit
+        import shutil
+        import tempfile
+        _CWD = tempfile.mkdtemp(prefix="osg-fuzz-")
+        atexit.register(shutil.rmtree, _CWD, True)
+    return _CWD
+
+
+def _env(env, **more):
+    """The calls' environment: the modules on the path, and no display to open windows on."""
+    out = dict(env or os.environ, PYTHONPATH=os.pathsep.join([BUILD, HERE]), **more)
+    out.pop("DISPLAY", None)
+    return out
+
+
+_CWD = None
+
+
 def _limit():
     import resource
     if "asan" not in os.environ.get("LD_PRELOAD", ""):  # turns runaway allocations into bad_alloc
@@ -297,9 +347,8 @@ def run_worker(table_path, seed, chunk, size, picks="all", timeout=60, env=None)
     crash outside the calls; SystemError reports)."""
     r, w = os.pipe()
     cmd = [sys.executable, __file__, "--worker", table_path, str(seed), str(chunk), str(size), picks]
-    env = dict(env or os.environ, PYTHONPATH=os.pathsep.join([BUILD, HERE]), FUZZ_FD=str(w))
     proc = subprocess.Popen(cmd, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                            pass_fds=(w,), env=env, preexec_fn=_limit)
+                            pass_fds=(w,), env=_env(env, FUZZ_FD=str(w)), preexec_fn=_limit, cwd=_cwd())
     os.close(w)
     os.set_blocking(r, False)
     text, deadline = b"", time.monotonic() + timeout
@@ -336,7 +385,7 @@ def crashes(code, env=None):
     """Whether a line of Python crashes or hangs a fresh interpreter."""
     try:
         done = subprocess.run([sys.executable, "-c", code], capture_output=True, timeout=60, preexec_fn=_limit,
-                              env=dict(env or os.environ, PYTHONPATH=BUILD))
+                              env=_env(env), cwd=_cwd())
     except subprocess.TimeoutExpired:
         return True
     return done.returncode != 0 and "Traceback" not in done.stderr.decode(errors="replace")
@@ -368,7 +417,7 @@ def reproduce(table_path, table, seed, chunk, size, index, env=None):
 
 def make_table(path, env=None):
     done = subprocess.run([sys.executable, __file__, "--probe", path], capture_output=True, text=True, timeout=300,
-                          env=dict(env or os.environ, PYTHONPATH=BUILD))
+                          env=_env(env), cwd=_cwd())
     if done.returncode:
         raise RuntimeError(done.stderr)
     with open(path) as f:
