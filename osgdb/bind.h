@@ -23,7 +23,7 @@ template <class T>
 inline constexpr int descriptor_of<T> = osgdb::Types::index_of<T>;
 }  // namespace wrap
 
-#include "wrap/table.h"
+#include "wrap/module.h"
 
 // The families, in the order their rows appear in the method table.
-void add_file_rows(wrap::Table &t);
+void add_file_rows(wrap::Table &t, wrap::Constants &c);

@@ -18,7 +18,7 @@ constexpr Text options = "osgDB::Options const *";
 
 }  // namespace
 
-void add_file_rows(Table &t) {
+void add_file_rows(Table &t, Constants &) {
     add(t, {
         qualified_fn<"osgDB::readNodeFile", [](Name f) { return osg::ref_ptr<osg::Node>(osgDB::readNodeFile(f)); },
                      "std::string const &">(),
