@@ -72,7 +72,7 @@ void SwigPyObject_setown(SwigPyObject *sobj, int own) {
     // that runtime's deallocation releases it; moving it here would release a reference a
     // joining module never took. The method is called directly, taking no reference, as this
     // may run inside the object's own deallocation (its destroy function disowns it).
-    if (!PyType_IsSubtype(Py_TYPE(sobj), SwigPyObject_type())) {
+    if (Py_TYPE(sobj) != SwigPyObject_cached && !PyType_IsSubtype(Py_TYPE(sobj), SwigPyObject_type())) {
         PyCFunction move = sibling_method(Py_TYPE(sobj), own ? "acquire" : "disown");
         if (!move || !own == !sobj->own) {
             sobj->own = own;
