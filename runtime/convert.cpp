@@ -205,13 +205,8 @@ PyObject *SWIG_Python_NewPointerObj(void *ptr, swig_type_info *type, int flags) 
         newobj->next = nullptr;
         return (PyObject *)newobj;
     }
-    auto *sobj = PyObject_New(SwigPyObject, SwigPyObject_cached ? SwigPyObject_cached : SwigPyObject_type());
-    if (!sobj) return nullptr;
-    sobj->ptr = ptr;
-    sobj->ty = type;
-    sobj->own = own;
-    sobj->next = nullptr;
-    PyObject *robj = (PyObject *)sobj;
+    PyObject *robj = SwigPyObject_New(ptr, type, own);
+    if (!robj) return nullptr;
     // Every owned proxy keeps the shared type table alive.
     if (own) Py_XINCREF(Swig_Capsule_global);
     if (clientdata && !(flags & SWIG_POINTER_NOSHADOW)) {
