@@ -232,6 +232,18 @@ PyObject *finish(Method *m, PyObject *r) {
     return m->cast ? downcast_items(r) : r;
 }
 
+// The empty `this` slot of an instance of a class whose slot is known (a package class's, as
+// construct() makes it), or null where the lookup and <Class>_swiginit's rules must decide.
+PyObject **empty_this_slot(PyObject *self) {
+    PyTypeObject *t = Py_TYPE(self);
+    const SwigThisSlot &e = swig_this_slots[SWIG_ThisSlotIndex(t)];
+    if (t == SwigPyObject_cached || e.type != t || e.version != t->tp_version_tag || e.offset < 0 ||
+        t->tp_basicsize >= (Py_ssize_t)sizeof(SwigPyObject))
+        return nullptr;
+    auto **slot = (PyObject **)((char *)self + e.offset);
+    return *slot ? nullptr : slot;
+}
+
 PyObject *method_call(PyObject *callable, PyObject *const *args, size_t nargsf, PyObject *kwnames) {
     auto *m = (Method *)callable;
     Py_ssize_t n = PyVectorcall_NARGS(nargsf);
@@ -252,6 +264,9 @@ PyObject *method_call(PyObject *callable, PyObject *const *args, size_t nargsf, 
         } else if ((r = call_flat(m, args + 1, n - 1))) {
             if (m->own && adopt(r) < 0) {
                 Py_CLEAR(r);
+            } else if (PyObject **slot = empty_this_slot(args[0])) {
+                *slot = r;  // the reference passes to the instance
+                r = Py_NewRef(Py_None);
             } else if (SwigPyObject *sthis = SWIG_Python_GetSwigThis(args[0])) {
                 PyObject *done = SwigPyObject_append((PyObject *)sthis, r);
                 Py_DECREF(r);

@@ -25,14 +25,10 @@ static void keep_temporary(PyObject *obj) {
 // it (a member descriptor on the class, no __getattribute__, __getattr__ or __setattr__ of the
 // class's own) and remembered by the class's version tag, which any change to the class or its
 // bases clears.
-static Py_ssize_t this_offset(PyTypeObject *t) {
-    struct Entry {
-        PyTypeObject *type;
-        unsigned int version;
-        Py_ssize_t offset;
-    };
-    static Entry cache[16];
-    Entry &e = cache[((uintptr_t)t >> 5) & 15];
+SwigThisSlot swig_this_slots[SWIG_THIS_SLOTS];
+
+static inline Py_ssize_t this_offset(PyTypeObject *t) {
+    SwigThisSlot &e = swig_this_slots[SWIG_ThisSlotIndex(t)];
     if (t->tp_version_tag && e.type == t && e.version == t->tp_version_tag) return e.offset;
     Py_ssize_t offset = -1;
     if (t->tp_getattro == PyObject_GenericGetAttr && t->tp_setattro == PyObject_GenericSetAttr) {
@@ -64,10 +60,12 @@ int SWIG_Python_SetThis(PyObject *inst, PyObject *value) {
     return 0;
 }
 
-SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
+// The general walk: a `this` that is itself a proxy, a class without the slot, a sibling
+// module's pointer object.
+static SwigPyObject *find_this(PyObject *pyobj, int depth) {
     // A proxy whose `this` is itself a proxy is followed down to the pointer object; the
     // depth is bounded, so that a `this` leading back to itself fails instead of looping.
-    for (int depth = 0; !SwigPyObject_Check(pyobj); ++depth) {
+    for (; !SwigPyObject_Check(pyobj); ++depth) {
         PyObject *obj = nullptr;
         if (depth < 32 && this_slot(pyobj, &obj)) {
             if (!obj) return nullptr;
@@ -89,13 +87,40 @@ SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
     return (SwigPyObject *)pyobj;
 }
 
+// Nearly every argument is a pointer object of this runtime's type or an instance holding one
+// in its slot: those two are answered here without the walk. A type smaller than a pointer
+// object cannot be one by name, so an instance of such a type goes straight to its slot.
+static inline SwigPyObject *get_this(PyObject *pyobj) {
+    PyTypeObject *t = Py_TYPE(pyobj);
+    if (t == SwigPyObject_cached) return (SwigPyObject *)pyobj;
+    if (t->tp_basicsize < (Py_ssize_t)sizeof(SwigPyObject)) {
+        Py_ssize_t offset = this_offset(t);
+        if (offset >= 0) {
+            PyObject *obj = *(PyObject **)((char *)pyobj + offset);
+            if (!obj) return nullptr;
+            if (Py_TYPE(obj) == SwigPyObject_cached) return (SwigPyObject *)obj;
+            return find_this(obj, 1);
+        }
+    }
+    return find_this(pyobj, 0);
+}
+
+SwigPyObject *SWIG_Python_FindThis(PyObject *pyobj) { return get_this(pyobj); }
+
 static inline int convert_ptr(PyObject *obj, void **ptr, swig_type_info *ty, int flags, SwigPyObject **matched) {
     *matched = nullptr;
     if (!obj) return SWIG_ERROR;
     // None: the general form leaves the out-pointer as the caller set it; the fixed
     // forms (swigrt.h) store null themselves.
     if (obj == Py_None) return (flags & SWIG_POINTER_NO_NULL) ? SWIG_NullReferenceError : SWIG_OK;
-    SwigPyObject *sobj = SWIG_Python_GetSwigThis(obj);
+    SwigPyObject *sobj = get_this(obj);
+    // The first pointer object of the chain of the very type asked for: no walk.
+    if (sobj && sobj->ty == ty && ty) {
+        if (ptr) *ptr = sobj->ptr;
+        if (flags & SWIG_POINTER_DISOWN) SwigPyObject_setown(sobj, 0);
+        *matched = sobj;
+        return SWIG_OK;
+    }
     while (sobj) {
         void *vptr = sobj->ptr;
         if (!sobj->ty) {  // made without a descriptor (by calling the type itself): matches nothing
@@ -128,7 +153,7 @@ static inline int convert_ptr(PyObject *obj, void **ptr, swig_type_info *ty, int
     return SWIG_OK;
 }
 
-int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags) {
+int SWIG_Python_ConvertPtrGeneral(PyObject *obj, void **ptr, swig_type_info *ty, int flags) {
     SwigPyObject *matched;
     return convert_ptr(obj, ptr, ty, flags, &matched);
 }
@@ -153,7 +178,12 @@ PyObject *SWIG_Python_NewShadowInstance(SwigPyClientData *data, PyObject *swig_t
         // Keyword arguments are none: a null mapping says so without making a dictionary.
         auto *klass = (PyTypeObject *)data->newargs;
         static PyObject *no_args = PyTuple_New(0);
-        inst = no_args ? klass->tp_new(klass, no_args, nullptr) : nullptr;
+        // PyType_GenericNew does nothing but allocate, so its class's allocation is called directly.
+        if (klass->tp_new == PyType_GenericNew) {
+            inst = klass->tp_alloc(klass, 0);
+        } else {
+            inst = no_args ? klass->tp_new(klass, no_args, nullptr) : nullptr;
+        }
         // Setting `this` changes the instance, never its class, so the class's attribute
         // cache stays valid; invalidating it here would cost every later method lookup on the
         // class, and after about a thousand results CPython stops caching its attributes.
@@ -180,6 +210,21 @@ PyObject *SWIG_Python_NewPointerObj(void *ptr, swig_type_info *type, int flags) 
     // Every owned proxy keeps the shared type table alive.
     if (own) Py_XINCREF(Swig_Capsule_global);
     if (clientdata && !(flags & SWIG_POINTER_NOSHADOW)) {
+        // A package class: allocated as PyType_GenericNew would and given the new pointer object
+        // straight into its empty slot, the reference passing with it.
+        auto *klass = (PyTypeObject *)clientdata->newargs;
+        if (!clientdata->newraw && PyType_Check(klass) && klass->tp_new == PyType_GenericNew) {
+            Py_ssize_t offset = this_offset(klass);
+            if (offset >= 0) {
+                PyObject *inst = klass->tp_alloc(klass, 0);
+                if (inst) {
+                    Py_XSETREF(*(PyObject **)((char *)inst + offset), robj);
+                } else {
+                    Py_DECREF(robj);
+                }
+                return inst;
+            }
+        }
         PyObject *inst = SWIG_Python_NewShadowInstance(clientdata, robj);
         Py_DECREF(robj);
         return inst;

@@ -103,7 +103,7 @@ int SWIG_AsVal_unsigned_SS_long(PyObject *obj, unsigned long *val) {
     return SWIG_OK;
 }
 
-int SWIG_AsVal_double(PyObject *obj, double *val) {
+int SWIG_AsVal_double_general(PyObject *obj, double *val) {
     if (PyFloat_Check(obj)) {
         if (val) *val = PyFloat_AsDouble(obj);
         return SWIG_OK;
@@ -120,7 +120,7 @@ int SWIG_AsVal_double(PyObject *obj, double *val) {
     return SWIG_TypeError;
 }
 
-int SWIG_AsVal_float(PyObject *obj, float *val) {
+int SWIG_AsVal_float_general(PyObject *obj, float *val) {
     double v;
     int res = SWIG_AsVal_double(obj, &v);
     if (res < 0) return res;

@@ -72,7 +72,7 @@ void SwigPyObject_setown(SwigPyObject *sobj, int own) {
     // that runtime's deallocation releases it; moving it here would release a reference a
     // joining module never took. The method is called directly, taking no reference, as this
     // may run inside the object's own deallocation (its destroy function disowns it).
-    if (!PyType_IsSubtype(Py_TYPE(sobj), SwigPyObject_type())) {
+    if (Py_TYPE(sobj) != SwigPyObject_cached && !PyType_IsSubtype(Py_TYPE(sobj), SwigPyObject_type())) {
         PyCFunction move = sibling_method(Py_TYPE(sobj), own ? "acquire" : "disown");
         if (!move || !own == !sobj->own) {
             sobj->own = own;
@@ -142,6 +142,12 @@ static PyObject *SwigPyObject_next(PyObject *v, PyObject *) {
     Py_RETURN_NONE;
 }
 
+// Results mostly die within the statement that made them, so a pointer object freed a moment
+// ago is nearly always at hand for the next one: the allocator is spared both ways.
+static const int free_max = 32;
+static PyObject *free_objects[free_max];
+static int free_count;
+
 static void SwigPyObject_dealloc(PyObject *v) {
     auto *sobj = (SwigPyObject *)v;
     PyTypeObject *tp = Py_TYPE(v);
@@ -185,8 +191,13 @@ static void SwigPyObject_dealloc(PyObject *v) {
         Py_DECREF(n);
     }
     Py_XDECREF(next);
-    // The instance's own type frees it: a subclass instance carries a collector header.
-    tp->tp_free(v);
+    // The instance's own type frees it: a subclass instance carries a collector header. One of
+    // this runtime's own type is kept for the next pointer object instead, while there is room.
+    if (tp == SwigPyObject_cached && free_count < free_max) {
+        free_objects[free_count++] = v;
+    } else {
+        tp->tp_free(v);
+    }
     Py_DECREF(tp);  // every instance of a heap type holds a reference to it
 }
 
@@ -236,7 +247,13 @@ PyTypeObject *SwigPyObject_type() {
 }
 
 PyObject *SwigPyObject_New(void *ptr, swig_type_info *ty, int own) {
-    auto *sobj = PyObject_New(SwigPyObject, SwigPyObject_type());
+    SwigPyObject *sobj;
+    if (free_count) {
+        sobj = (SwigPyObject *)PyObject_Init(free_objects[--free_count], SwigPyObject_cached);
+    } else {
+        PyTypeObject *type = SwigPyObject_type();
+        sobj = type ? PyObject_New(SwigPyObject, type) : nullptr;
+    }
     if (sobj) {
         sobj->ptr = ptr;
         sobj->ty = ty;

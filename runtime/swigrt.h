@@ -173,11 +173,57 @@ struct SwigPyClientData {
 SwigPyClientData *SwigPyClientData_New(PyObject *obj);
 void SwigPyClientData_Del(SwigPyClientData *data);
 
-SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj);
+// Where instances of a class keep `this` in a slot, by the class and its version tag, which
+// any change to the class or its bases clears: offset -1 where the attribute protocol must run.
+// The conversion fills it; the inline forms below only read it.
+struct SwigThisSlot {
+    PyTypeObject *type;
+    unsigned int version;
+    Py_ssize_t offset;
+};
+enum : int { SWIG_THIS_SLOTS = 64 };
+extern SwigThisSlot swig_this_slots[SWIG_THIS_SLOTS];
+inline unsigned SWIG_ThisSlotIndex(PyTypeObject *t) {
+    // Heap types lie a few hundred bytes apart: a multiplicative hash spreads them over the table.
+    return (unsigned)(((uintptr_t)t * 0x9e3779b97f4a7c15ull) >> 58);
+}
+
+// The pointer object of an argument where it is found without the general walk: a pointer
+// object of this runtime's type, or an instance of a known class whose slot holds one. Null
+// leaves the answer to SWIG_Python_GetSwigThis. A type as large as a pointer object might be
+// one by name, so it is left to the walk too.
+inline SwigPyObject *SWIG_Python_QuickThis(PyObject *obj) {
+    PyTypeObject *t = Py_TYPE(obj);
+    if (t == SwigPyObject_cached) return (SwigPyObject *)obj;
+    const SwigThisSlot &e = swig_this_slots[SWIG_ThisSlotIndex(t)];
+    if (e.type != t || e.version != t->tp_version_tag || e.offset < 0 ||
+        t->tp_basicsize >= (Py_ssize_t)sizeof(SwigPyObject))
+        return nullptr;
+    PyObject *value = *(PyObject **)((char *)obj + e.offset);
+    return value && Py_TYPE(value) == SwigPyObject_cached ? (SwigPyObject *)value : nullptr;
+}
+
+SwigPyObject *SWIG_Python_FindThis(PyObject *pyobj);
+inline SwigPyObject *SWIG_Python_GetSwigThis(PyObject *pyobj) {
+    SwigPyObject *quick = SWIG_Python_QuickThis(pyobj);
+    return quick ? quick : SWIG_Python_FindThis(pyobj);
+}
 // Stores an instance's `this` as the attribute protocol would, straight into its slot where its
 // class keeps it in one.
 int SWIG_Python_SetThis(PyObject *inst, PyObject *value);
-int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags);
+int SWIG_Python_ConvertPtrGeneral(PyObject *obj, void **ptr, swig_type_info *ty, int flags);
+// An argument whose pointer object is quickly found and is of the very type asked for converts
+// inline; everything else (None, cast edges, chains, disowning) takes the general conversion.
+inline int SWIG_Python_ConvertPtrAndOwn(PyObject *obj, void **ptr, swig_type_info *ty, int flags) {
+    if (!(flags & SWIG_POINTER_DISOWN) && ty && obj) {
+        SwigPyObject *quick = SWIG_Python_QuickThis(obj);
+        if (quick && quick->ty == ty) {
+            if (ptr) *ptr = quick->ptr;
+            return SWIG_OK;
+        }
+    }
+    return SWIG_Python_ConvertPtrGeneral(obj, ptr, ty, flags);
+}
 // The same conversion, also reporting which pointer object of the chain matched (null for None).
 int SWIG_Python_ConvertPtrMatch(PyObject *obj, void **ptr, swig_type_info *ty, int flags, SwigPyObject **matched);
 // Sets the own flag, moving the owner's reference to the shared capsule with it.
@@ -218,8 +264,24 @@ Py_ssize_t SWIG_Python_UnpackTuple(PyObject *args, const char *name, Py_ssize_t 
                                    PyObject **objs);
 int SWIG_AsVal_long(PyObject *obj, long *val);
 int SWIG_AsVal_unsigned_SS_long(PyObject *obj, unsigned long *val);
-int SWIG_AsVal_double(PyObject *obj, double *val);
-int SWIG_AsVal_float(PyObject *obj, float *val);
+int SWIG_AsVal_double_general(PyObject *obj, double *val);
+int SWIG_AsVal_float_general(PyObject *obj, float *val);
+// A float argument converts inline; ints and everything else take the general conversion.
+inline int SWIG_AsVal_double(PyObject *obj, double *val) {
+    if (!PyFloat_CheckExact(obj)) return SWIG_AsVal_double_general(obj, val);
+    if (val) *val = PyFloat_AS_DOUBLE(obj);
+    return SWIG_OK;
+}
+inline int SWIG_AsVal_float(PyObject *obj, float *val) {
+    if (!PyFloat_CheckExact(obj)) return SWIG_AsVal_float_general(obj, val);
+    double v = PyFloat_AS_DOUBLE(obj);
+    // Out of float's range but finite overflows; infinities and NaN pass as they are.
+    if ((v < -3.4028234663852886e+38 || v > 3.4028234663852886e+38) &&
+        (v >= -1.7976931348623157e+308 && v <= 1.7976931348623157e+308))
+        return SWIG_OverflowError;
+    if (val) *val = (float)v;
+    return SWIG_OK;
+}
 
 // ---- global variable link object ----------------------------------------------
 typedef PyObject *(*swig_varlink_get)();
