@@ -230,17 +230,6 @@ def test_matrix_and_image_views():
     assert count(image) == before
 
 
-def test_numpy_sees_arrays():
-    np = pytest.importorskip("numpy")
-    a = D.new_Vec3Array(np.arange(12, dtype=np.float32).reshape(4, 3))
-    view = np.asarray(D.Vec3Array___buffer__(a, 0))
-    assert view.dtype == np.float32 and view.shape == (4, 3) and view[3, 2] == 11
-    with pytest.raises(TypeError):
-        D.new_Vec3Array(np.zeros((4, 3)))
-    del view
-    free(a)
-
-
 def test_repeated_calls_leak_nothing():
     floats, points, indices = array.array("f", range(3000)), [(1.0, 2.0, 3.0)] * 100, list(range(300))
     wrong = array.array("d", range(30))

@@ -2,8 +2,7 @@ import sys
 
 import pytest
 
-import _osg
-import _osgpeer as peer
+from engine_support import _osg, _osgpeer as peer, raises
 
 PLAIN = "_p_osg__Matrixd"  # never registered in this process: pointers of it stay bare
 
@@ -39,7 +38,7 @@ def test_compare_by_pointer_only():
     assert (int(a), int(other)) == (0x30, 0x40)  # int() gives the C++ address
 
 
-def test_ownership_flag(raises_exactly):
+def test_ownership_flag():
     p = pointer(0x50)
     assert p.own() is False
     assert (p.own(1), p.own()) == (False, True)
@@ -47,10 +46,10 @@ def test_ownership_flag(raises_exactly):
     assert (p.acquire(), p.own()) == (None, True)
     assert (p.disown(), p.own()) == (None, False)
     assert (p.own("yes"), p.own([]), p.own()) == (False, True, False)
-    raises_exactly(TypeError, "own expected at most 1 argument, got 2", p.own, 1, 2)
+    raises(TypeError, "own expected at most 1 argument, got 2", p.own, 1, 2)
 
 
-def test_append_and_next(raises_exactly):
+def test_append_and_next():
     chain = [pointer(0x1000), pointer(0x2000), pointer(0x3000)]
     p, q, r = chain
     base = [sys.getrefcount(chain[i]) for i in (1, 2)]
@@ -60,8 +59,8 @@ def test_append_and_next(raises_exactly):
     assert (appended, p.next(), held) == (None, q, base[0] + 1)
     p.append(r)  # goes right after p
     assert (p.next(), r.next(), q.next()) == (r, q, None)
-    raises_exactly(TypeError, "Attempt to append a non SwigPyObject", p.append, object())
-    raises_exactly(TypeError, "Attempt to append a non SwigPyObject", p.append, peer.packed(b"x", PLAIN))
+    raises(TypeError, "Attempt to append a non SwigPyObject", p.append, object())
+    raises(TypeError, "Attempt to append a non SwigPyObject", p.append, peer.packed(b"x", PLAIN))
     del p, chain[0]  # chain is now [q, r]
     assert sys.getrefcount(chain[1]) == base[1]
     del r, chain[1]
