@@ -47,15 +47,9 @@ def test_delete_by_hand_disowns_and_drops_one_reference(new, delete):
 
 
 @pytest.mark.parametrize("cls", VECTORS + ["Quat", "CopyOp"])
-def test_delete_of_a_value_frees_it(cls):
-    new, delete = getattr(_osg, f"new_{cls}"), getattr(_osg, f"delete_{cls}")
-    before = heap_bytes()
-    objects = [new() for _ in range(2000)]
-    grown = heap_bytes() - before
-    for p in objects:
-        assert delete(p) is None and p.own() is False
-    del objects, p
-    assert grown > 2000 * 8 and heap_bytes() - before < grown // 10
+def test_delete_of_a_value_disowns_it(cls):  # that it frees the value, test_leaks' delete_ rows see
+    p = getattr(_osg, f"new_{cls}")()
+    assert getattr(_osg, f"delete_{cls}")(p) is None and p.own() is False
 
 
 INPLACE = [(f"{c}___{op}__", c, "v" if op in ("iadd", "isub") else 2.0) for c in VECTORS + ["Quat"]
@@ -124,20 +118,6 @@ def test_by_value_results_own_and_accessors_borrow(mk):
 
 
 # ---- the proxy layer of tests/companion.py, each case in a child interpreter -------------
-
-def _child_unregistered():
-    r = _osg.Vec3f___add__(_osg.new_Vec3f(1, 2, 3), _osg.new_Vec3f())
-    libc.fflush(None)
-    print("before", flush=True)
-    del r
-    libc.fflush(None)
-    print("after", flush=True)
-
-
-def test_without_registration_owned_results_report_a_leak(run_py):
-    leak = "swig/python detected a memory leak of type 'osg::Vec3f *', no destructor found.\n"
-    assert run_py("import test_ownership; test_ownership._child_unregistered()")[0] == 2 * leak + "before\n" + leak + "after\n"
-
 
 def _child_shadow_instances():
     import companion as c
