@@ -34,15 +34,3 @@ def run_py():
         assert proc.returncode == 0, proc.stderr
         return proc.stdout, proc.stderr
     return run
-
-
-@pytest.fixture
-def raises_exactly():
-    """Calls fn(*args) and checks the exception's exact class and text."""
-    def check(exc_type, message, fn, *args):
-        with pytest.raises(exc_type) as info:
-            fn(*args)
-        got = (type(info.value), str(info.value))
-        del info  # its traceback holds this frame: no cycle may keep fn's arguments alive
-        assert got == (exc_type, message)
-    return check

@@ -419,6 +419,3 @@ STATE = state_set() + attributes() + texture()
 ALL = [r for V in VECTORS for r in vector(V)] + quat() + base() + notify() + matrix("Matrixd") + matrix("Matrixf") + \
     ref_matrix("RefMatrixd") + ref_matrix("RefMatrixf") + plane() + operators() + STATE
 ALL += camera()
-ROWS = [r for r in ALL if isinstance(r, Row)]
-DISPATCHERS = [d for d in ALL if isinstance(d, Disp)]
-BY_NAME = {r.name: r for r in ALL}

@@ -1,9 +1,8 @@
 """Helpers of the class-binding tests: module import, cleanup of owned proxies, raw memory
-reads, child interpreters and memory probes."""
+reads and memory probes."""
 import ctypes
 import os
 import re
-import subprocess
 import sys
 
 import pytest
@@ -147,15 +146,6 @@ def refuse(*rows):
         null, f = f.startswith("!"), f.lstrip("!")
         raises(exc, f"{'invalid null reference ' * null}in method '{f}', argument {n} of type '{spelled}'",
                getattr(_osg, f), *args)
-
-
-def run_child(module, function):
-    """Runs module.function() in a fresh interpreter, so that class registration stays out of
-    this process; returns its standard output."""
-    done = subprocess.run([sys.executable, "-c", f"import {module}; {module}.{function}()"], cwd=HERE,
-                          env=dict(os.environ, PYTHONPATH=HERE), capture_output=True, text=True, timeout=120)
-    assert done.returncode == 0, done.stderr
-    return done.stdout
 
 
 class _MallInfo2(ctypes.Structure):

@@ -1,9 +1,5 @@
 """Every flat function of the scene-graph classes, written from OpenSceneGraph's headers, in
-the shape of engine_rows. Argument codes (argument 1 first): S self, s self of a const member,
-D a fresh object (delete_), i an int, x a number, b True, n None, N a node, V a visitor,
-C a CopyOp, o a DummyObject, M a matrix, P a node path, B a box, E a sphere, L a description
-list, W a value list, t a std::string, G a geometry, g a drawable, 3 a Vec3d, f a Vec3f, q a Quat,
-T a state set, p a clip plane, K a clip plane list, R a render info."""
+the shape and with the argument codes of engine_rows (R: a render info, which nothing makes)."""
 from engine_rows import Disp, Row, free, m, pair, protos
 
 NODES = ["Node", "Group", "Geode", "Switch", "Transform", "MatrixTransform", "PositionAttitudeTransform",
@@ -24,8 +20,8 @@ def both(cls, member, args, first_const, goods):
 def common(cls, accept=True):
     """The constructors and META_Node rows every node class repeats."""
     rows = [Disp(f"new_{cls}", cls, protos(f"osg::{cls}", cls, [], [f"osg::{cls} const &", "osg::CopyOp const &"],
-                                           [f"osg::{cls} const &"]), ["", "vC", "v"], False),
-            m(cls, "cloneType", "s", True), m(cls, "clone", "sC", True), m(cls, "isSameKindAs", "so", True),
+                                           [f"osg::{cls} const &"]), ["", "vc", "v"], False),
+            m(cls, "cloneType", "s", True), m(cls, "clone", "sc", True), m(cls, "isSameKindAs", "so", True),
             m(cls, "className", "s", True), m(cls, "libraryName", "s", True)]
     return rows + ([m(cls, "accept", "SV")] if accept else [])
 
@@ -53,7 +49,7 @@ def node():
                                                 "getNumDescriptions", "getInitialBound", "getBound"]]
     return rows + [m("Node", f, c) for f, c in [
         ("setCullingActive", "Sb"), ("setNodeMask", "Si"), ("setStateSet", "Sn"), ("getOrCreateStateSet", "S"),
-        ("setDescriptions", "SL"), ("addDescription", "St"), ("setInitialBound", "SE"), ("dirtyBound", "S"),
+        ("setDescriptions", "S1"), ("addDescription", "Sz"), ("setInitialBound", "SB"), ("dirtyBound", "S"),
         ("setComputeBoundingSphereCallback", "Sn"), ("setThreadSafeRefUnref", "Sb"), ("resizeGLObjectBuffers", "Si")]]
 
 
@@ -89,16 +85,16 @@ def transforms():
     rows += common(A, accept=False) + matrices(A) + [pair(A, f"as{A}")]
     rows[rows.index(next(r for r in rows if r.name == "new_MatrixTransform"))] = Disp(
         "new_MatrixTransform", MT, protos(f"osg::{MT}", MT, [], [f"osg::{MT} const &", "osg::CopyOp const &"],
-                                          [f"osg::{MT} const &"], ["osg::Matrix const &"]), ["", "vC", "v", "M"], False)
+                                          [f"osg::{MT} const &"], ["osg::Matrix const &"]), ["", "vc", "v", "M"], False)
     rows += [m(T, f"as{k}", "S") for k in [MT, P, A]] + [m(T, "setReferenceFrame", "Si"), m(T, "getReferenceFrame", "s", True)]
     rows += [m(MT, f, "SM") for f in ["setMatrix", "preMult", "postMult"]]
     rows += [m(MT, f, "s", True) for f in ["getMatrix", "getInverseMatrix"]]
-    for cls, fields in [(P, {"Position": "3", "Attitude": "q", "Scale": "3", "PivotPoint": "3"}),
-                        (A, {"Position": "3", "Rotation": "q", "MinimumScale": "x", "MaximumScale": "x", "PivotPoint": "3",
-                             "AutoUpdateEyeMovementTolerance": "x", "AutoRotateMode": "i", "Axis": "f", "Normal": "f",
+    for cls, fields in [(P, {"Position": "G", "Attitude": "Q", "Scale": "G", "PivotPoint": "G"}),
+                        (A, {"Position": "G", "Rotation": "Q", "MinimumScale": "x", "MaximumScale": "x", "PivotPoint": "G",
+                             "AutoUpdateEyeMovementTolerance": "x", "AutoRotateMode": "i", "Axis": "F", "Normal": "F",
                              "AutoScaleToScreen": "b", "AutoScaleTransitionWidthRatio": "x"})]:
         rows += [r for k, c in fields.items() for r in (m(cls, f"set{k}", "S" + c), m(cls, f"get{k}", "s", True))]
-    rows += [d(A, "setScale", ["double"], ["osg::Vec3d const &"], goods=["Sx", "S3"]), m(A, "getScale", "s", True)]
+    rows += [d(A, "setScale", ["double"], ["osg::Vec3d const &"], goods=["Sx", "SG"]), m(A, "getScale", "s", True)]
     for f in FOLDS:
         eye = ["osg::Matrix const &"] if "Eye" in f else []
         rows.append(Disp(f, None, protos("osg", f, eye + ["osg::NodePath const &", "bool"], eye + ["osg::NodePath const &"]),
@@ -109,26 +105,17 @@ def transforms():
 def clip_and_smooth():
     C, V = "ClipNode", "SmoothingVisitor"
     rows = common(C) + [
-        d(C, "createClipBox", ["osg::BoundingBox const &", "unsigned int"], ["osg::BoundingBox const &"], goods=["SBi", "SB"]),
+        d(C, "createClipBox", ["osg::BoundingBox const &", "unsigned int"], ["osg::BoundingBox const &"], goods=["SXi", "SX"]),
         d(C, "removeClipPlane", ["osg::ClipPlane *"], ["unsigned int"], goods=["Sn"]),
         both(C, "getClipPlane", ["unsigned int"], False, []), pair(C, "getClipPlaneList"),
         d(C, "setLocalStateSetModes", ["osg::StateAttribute::GLModeValue"], [], goods=["Si", "S"]),
-        m(C, "setReferenceFrame", "Si"), m(C, "getReferenceFrame", "s", True), m(C, "addClipPlane", "Sp"),
-        m(C, "getNumClipPlanes", "s", True), m(C, "setClipPlaneList", "SK"), m(C, "setStateSetModes", "sTi", True),
+        m(C, "setReferenceFrame", "Si"), m(C, "getReferenceFrame", "s", True), m(C, "addClipPlane", "S9"),
+        m(C, "getNumClipPlanes", "s", True), m(C, "setClipPlaneList", "S0"), m(C, "setStateSetModes", "s8i", True),
         free("new_SmoothingVisitor", "", cls=V), free("delete_SmoothingVisitor", "D", "osgUtil::SmoothingVisitor *", V),
         Disp("SmoothingVisitor_smooth", None, protos("osgUtil::SmoothingVisitor", "smooth", ["osg::Geometry &", "double"],
-                                                  ["osg::Geometry &"]), ["Gx", "G"], False)]
+                                                  ["osg::Geometry &"]), ["7x", "7"], False)]
     return rows + [Row(f"{V}_{f}", V, c, f"osgUtil::SmoothingVisitor{k} *", False)
-                   for f, c, k in [("apply", "SG", ""), ("setCreaseAngle", "Sx", ""), ("getCreaseAngle", "s", " const")]]
+                   for f, c, k in [("apply", "S7", ""), ("setCreaseAngle", "Sx", ""), ("getCreaseAngle", "s", " const")]]
 
 
-# The letters above as the argument codes engine_rows defines, one set for every family's leak test:
-# C c, B X, E B, t z, 3 G, f F, q Q; and, new there, L 1, G 7, T 8, p 9, K 0.
-SHARED = str.maketrans({"C": "c", "B": "X", "E": "B", "t": "z", "3": "G", "f": "F", "q": "Q", "L": "1", "G": "7",
-                        "T": "8", "p": "9", "K": "0"})
-SCENE = [r._replace(codes=r.codes.translate(SHARED)) if isinstance(r, Row) else
-         r._replace(goods=[g.translate(SHARED) for g in r.goods]) for r in node() + groups() + transforms() + clip_and_smooth()]
-SCENE_ROWS = [r for r in SCENE if isinstance(r, Row)]
-SCENE_DISPATCHERS = [r for r in SCENE if isinstance(r, Disp) and r.protos]
-BY_NAME = {r.name: r for r in SCENE}
-assert len(BY_NAME) == len(SCENE)
+SCENE = node() + groups() + transforms() + clip_and_smooth()

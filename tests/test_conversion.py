@@ -3,8 +3,7 @@ import types
 
 import pytest
 
-import _osg
-import _osgpeer as peer
+from engine_support import _osg, _osgpeer as peer, raises
 
 V = "_p_osg__Vec4d"  # never registered in this process
 
@@ -84,13 +83,13 @@ def test_registered_non_class_is_instantiated_through_its_new():
     assert calls == [factory] and int(inst.this) == 0xE000
 
 
-def test_swiginit_sets_this_then_chains(raises_exactly):
+def test_swiginit_sets_this_then_chains():
     inst = Holder(None)
     del inst.this
     a, b = peer.new_pointer(0xF000, V, 0), peer.new_pointer(0xF100, V, 0)
     assert _osg.Node_swiginit(inst, a) is None and inst.this is a
     assert _osg.Node_swiginit(inst, b) is None and inst.this is a and a.next() is b
-    raises_exactly(TypeError, "Attempt to append a non SwigPyObject", _osg.Node_swiginit, inst, 5)
+    raises(TypeError, "Attempt to append a non SwigPyObject", _osg.Node_swiginit, inst, 5)
     assert b.next() is None
     with pytest.raises(AttributeError):
         _osg.Node_swiginit(5, a)
@@ -121,24 +120,24 @@ def test_float_accepts_nan():
     (-1, RuntimeError), (-2, OSError), (-3, RuntimeError), (-4, IndexError), (-5, TypeError), (-6, ZeroDivisionError),
     (-7, OverflowError), (-8, SyntaxError), (-9, ValueError), (-10, SystemError), (-11, AttributeError),
     (-12, MemoryError), (-13, TypeError), (-14, RuntimeError), (0, RuntimeError), (5, RuntimeError)])
-def test_error_types(code, exc, raises_exactly):
+def test_error_types(code, exc):
     assert peer.error_type(code) is exc
-    raises_exactly(exc, "it failed", peer.set_error_msg, code, "it failed")
+    raises(exc, "it failed", peer.set_error_msg, code, "it failed")
 
 
 @pytest.mark.parametrize("args,low,high,message", [
     (None, 1, 1, "f expected 1 arguments, got none"), (None, 1, 3, "f expected at least 1 arguments, got none"),
     ((1, 2, 3), 2, 2, "f expected 2 arguments, got 3"), ((), 1, 3, "f expected at least 1 arguments, got 0"),
     ((1, 2, 3, 4), 1, 3, "f expected at most 3 arguments, got 4"), ((1,), 2, 2, "f expected 2 arguments, got 1")])
-def test_unpack_count_messages(args, low, high, message, raises_exactly):
-    raises_exactly(TypeError, message, peer.unpack, args, "f", low, high)
+def test_unpack_count_messages(args, low, high, message):
+    raises(TypeError, message, peer.unpack, args, "f", low, high)
 
 
-def test_unpack_results(raises_exactly):
+def test_unpack_results():
     assert peer.unpack((7, 8), "f", 1, 3) == (3, [7, 8, None])
     assert peer.unpack(None, "f", 0, 0) == (1, [])
     assert peer.unpack("solo", "f", 1, 2) == (2, ["solo", None])
-    raises_exactly(SystemError, "UnpackTuple() argument list is not a tuple", peer.unpack, "solo", "f", 2, 2)
+    raises(SystemError, "UnpackTuple() argument list is not a tuple", peer.unpack, "solo", "f", 2, 2)
 
 
 class NarrowTypeError(TypeError):
@@ -150,5 +149,5 @@ class NarrowTypeError(TypeError):
     (TypeError("inner"), TypeError, "inner\nAdditional information:\nouter"),
     (NarrowTypeError("inner"), NarrowTypeError, "inner\nAdditional information:\nouter"),
     (ValueError("inner"), TypeError, "outer")])
-def test_raise_or_modify_type_error(pending, exc, message, raises_exactly):
-    raises_exactly(exc, message, peer.raise_or_modify, "outer", pending)
+def test_raise_or_modify_type_error(pending, exc, message):
+    raises(exc, message, peer.raise_or_modify, "outer", pending)

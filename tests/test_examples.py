@@ -47,25 +47,3 @@ def test_shapes_written_for_a_viewer_and_bodies_falling(tmp_path):
                         rf"written to {re.escape(str(tmp_path / 'falling.gif'))}\n", out)
     with Image.open(tmp_path / "falling.gif") as gif:
         assert (gif.n_frames, gif.size) == (3, (320, 240))
-
-
-def test_state_set():
-    assert run("stateset.py").splitlines() == [
-        "fog mode on",
-        "fog Fog from 10 to 100, colour [0.5, 0.5, 0.6000000238418579, 1.0]",
-        "colour mask ColorMask writes alpha: False",
-        "clip plane 0 ClipPlane [1.0, 0.0, 0.0, 0.0]",
-        "clip plane 1 ClipPlane [0.0, 1.0, 0.0, -2.0]",
-    ]
-
-
-def test_camera():
-    # The lookAt's true up is perpendicular to the view from (0, -12, 5): (0, 5, 12) / 13.
-    assert run("camera.py").splitlines() == [
-        "viewport 0 0 1280x720, aspect 1.7778",
-        "perspective fovy 30 aspect 1.7778 near 1 far 1000",
-        f"look at (0, -12, 5) (0, 0, 0) (0, {round(5 / 13, 4)}, {round(12 / 13, 4)})",
-        "clear colour [0.2, 0.2, 0.4, 1.0], mask 0x4100",
-        "origin at window (640, 360)",  # the point looked at: the viewport's middle
-        "hud ortho 0 1280 0 720 -1 1 order post mask 0x100, event focus False",
-    ]

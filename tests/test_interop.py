@@ -2,6 +2,7 @@ import json
 
 import pytest
 
+FIRST = {True: "import _osgpeer as peer, _osg", False: "import _osg, _osgpeer as peer"}  # the load order
 SHARED = ["_p_GLenum", "_p_osg__Node", "_p_osg__Vec3f", "_p_std__string"]
 
 
@@ -14,10 +15,7 @@ def result(out):
 def test_two_modules_share_one_ring(run_py, peer_first):
     out, _ = run_py(f"""
         import json, sys
-        if {peer_first}:
-            import _osgpeer as peer, _osg
-        else:
-            import _osg, _osgpeer as peer
+        {FIRST[peer_first]}
         tables = {{len(rows): (module, {{name: address for name, _, address in rows}})
                   for module, rows in peer.ring_tables()}}
         mine, theirs = tables[6][1], tables[130][1]
@@ -54,10 +52,7 @@ def test_two_modules_share_one_ring(run_py, peer_first):
 def test_teardown_releases_client_data_only_from_the_last_user(run_py, peer_first):
     out, _ = run_py(f"""
         import json, sys
-        if {peer_first}:
-            import _osgpeer as peer, _osg
-        else:
-            import _osg, _osgpeer as peer
+        {FIRST[peer_first]}
         class Vec3f: pass
         base = sys.getrefcount(Vec3f)
         _osg.Vec3f_swigregister(Vec3f)
@@ -110,10 +105,7 @@ def test_second_import_reuses_the_type_table(run_py):
 @pytest.mark.parametrize("peer_first", [True, False])
 def test_exit_with_a_sibling_registered_classes_and_live_owners(run_py, peer_first):
     out, err = run_py(f"""
-        if {peer_first}:
-            import _osgpeer, _osg
-        else:
-            import _osg, _osgpeer
+        {FIRST[peer_first]}
         import companion
         live = [companion.Vec3f(1, 2, 3), companion.Quat(), companion.CopyOp(), companion.DummyObject(),
                 companion.StandardNotifyHandler(), companion.Referenced(), _osg.new_Vec4d(), _osg.new_Referenced()]

@@ -114,16 +114,6 @@ def test_out_parameters(mk):
     assert values(mk(_osg.Matrixd_getTrans(trs)), "Vec3d") == approx([7, 8, 9])
 
 
-def test_out_parameter_refusals(mk, raises_exactly):
-    m, (_, slots) = mk.Matrixd(), doubles(4)
-    message = "Wrong number or type of arguments for overloaded function 'Matrixd_getPerspective'.\n" \
-              "  Possible C/C++ prototypes are:\n" \
-              "    osg::Matrixd::getPerspective(double &,double &,double &,double &) const\n" \
-              "    osg::Matrixd::getPerspective(float &,float &,float &,float &) const\n"
-    for bad in ([1.0] + slots[1:], [None] + slots[1:], slots[:3] + [[0.0]]):
-        raises_exactly(TypeError, message, _osg.Matrixd_getPerspective, m, *bad)
-
-
 def test_matrixf_scalar_operators_and_not_implemented(mk):
     d, f = mk.Matrixd(), mk.Matrixf(*range(16))
     assert _osg.Matrixd___mul__(d, 2.0) is NotImplemented and _osg.Matrixd___mul__(d, "x") is NotImplemented

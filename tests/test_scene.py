@@ -1,6 +1,5 @@
 """Scene graph: small real scenes: parents, world matrices, ownership and reference counts,
 switches, clip boxes, smoothing of a real mesh (its functions' leak tests are test_leaks')."""
-import ctypes
 import math
 
 import pytest
@@ -20,10 +19,6 @@ def made():
     yield lambda p: held.append(p) or p
     for p in held:
         _osg.delete_Group(p)
-
-
-def camera():
-    return V.pointer(ctypes.addressof(ctypes.c_double()), "_p_osg__Camera")
 
 
 def translate(x, y, z, mk):
@@ -149,13 +144,6 @@ def test_reference_counts_and_ownership(run_py):
         print(_osg.Group_getNumChildren(root), zog.zog_stub_unreference_calls())
     """)
     assert out == "False 1 Group 1\n0 1\n"
-
-
-def test_camera_proxies_are_refused(made):
-    g = made(_osg.new_Group())
-    refuse((TypeError, "Node_getNodeMask", 1, "osg::Node const *", camera()), (TypeError, "Group_addChild", 2, "osg::Node *", g, camera()),
-           (TypeError, "Transform_getReferenceFrame", 1, "osg::Transform const *", camera()),
-           (TypeError, "delete_Group", 1, "osg::Group *", camera()))
 
 
 def test_node_values(made, mk):

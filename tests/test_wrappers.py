@@ -2,28 +2,8 @@
 per-argument messages, scalar, boolean, string and null-reference conversion."""
 import pytest
 
-from all_rows import BY_NAME, DISPATCHERS, ROWS
+from all_rows import DISPATCHERS, ROWS
 from engine_support import VECTORS, _osg, mk, raises, refuse  # noqa: F401  (mk is a fixture)
-from scene_rows import FOLDS, NODES
-
-CLASSES = {"Referenced", "Object", "CopyOp", "DummyObject", "NotifyHandler", "StandardNotifyHandler", "Quat", *VECTORS,
-           "Matrixd", "Matrixf", "RefMatrixd", "RefMatrixf", "Plane"}
-CLASSES |= {"StateSet", "StateAttribute", "Fog", "ColorMask", "ClipPlane", "Viewport", "Texture2D"}
-CLASSES |= {"Camera", "CameraRenderOrderSortOp"}
-CLASSES |= {*NODES, "SmoothingVisitor"}
-NOTIFY = {"setNotifyLevel", "getNotifyLevel", "initNotifyLevel", "isNotifyEnabled", "notify", "setNotifyHandler",
-          "getNotifyHandler", "__mul__", "componentMultiply", "componentDivide", "resizeGLObjectBuffers",
-          "releaseGLObjects", *FOLDS}
-
-
-def in_scope(name):
-    head, _, rest = name.partition("_")
-    return not name.endswith(("_swigregister", "_swiginit")) and (
-        rest in CLASSES if head in ("new", "delete") else head in CLASSES or head == "intrusive" or name in NOTIFY)
-
-
-def test_the_tables_name_every_function_of_these_classes():
-    assert {n for n in dir(_osg) if callable(getattr(_osg, n)) and in_scope(n)} == set(BY_NAME)
 
 
 def by_arity(test):

@@ -4,8 +4,6 @@
 // _osg takes come from _osgvalues and _osgdraw; a few objects with their own needs are made here.
 #include "runtime/swigrt.h"
 
-#include <osg/Matrixd>
-#include <osg/Matrixf>
 #include <osg/Node>
 #include <osg/Vec3f>
 #include <osg/Image>
@@ -56,7 +54,6 @@ swig_type_info *types[type_count + 1];
 swig_module_info module = {types, type_count, nullptr, nullptr, nullptr, nullptr};
 
 std::string strings[4];
-osg::Vec3f vectors[4];
 peer::SpecialNode *special = nullptr;
 
 swig_module_info *ring() {
@@ -93,14 +90,6 @@ PyObject *read_string(PyObject *, PyObject *arg) {
         return nullptr;
     }
     return PyUnicode_FromString(static_cast<std::string *>(p)->c_str());
-}
-
-PyObject *vec3f_ptr(PyObject *, PyObject *args) {
-    int slot;
-    float x, y, z;
-    if (!PyArg_ParseTuple(args, "ifff", &slot, &x, &y, &z)) return nullptr;
-    vectors[slot & 3].set(x, y, z);
-    return SWIG_Python_NewPointerObj(&vectors[slot & 3], types[osg__Vec3f], 0);
 }
 
 PyObject *read_vec3f(PyObject *, PyObject *arg) {
@@ -283,16 +272,6 @@ PyObject *convert_form(PyObject *, PyObject *args) {
     return Py_BuildValue("(iN)", status, addr);
 }
 
-// The compiler's offsets of the matrix base inside the reference-counted matrices.
-PyObject *matrix_offsets(PyObject *, PyObject *) {
-    alignas(osg::RefMatrixd) static char d[sizeof(osg::RefMatrixd)];
-    alignas(osg::RefMatrixf) static char f[sizeof(osg::RefMatrixf)];
-    auto off = [](auto *derived, auto *base) { return (long)((char *)base - (char *)derived); };
-    auto *rd = reinterpret_cast<osg::RefMatrixd *>(d);
-    auto *rf = reinterpret_cast<osg::RefMatrixf *>(f);
-    return Py_BuildValue("(ll)", off(rd, static_cast<osg::Matrixd *>(rd)), off(rf, static_cast<osg::Matrixf *>(rf)));
-}
-
 PyObject *new_pointer(PyObject *, PyObject *args) {
     unsigned long long address;
     const char *name;
@@ -410,7 +389,6 @@ PyObject *affinity_cpus(PyObject *, PyObject *arg) {
 PyMethodDef methods[] = {
     {"string_ptr", string_ptr, METH_VARARGS, nullptr},
     {"read_string", read_string, METH_O, nullptr},
-    {"vec3f_ptr", vec3f_ptr, METH_VARARGS, nullptr},
     {"read_vec3f", read_vec3f, METH_O, nullptr},
     {"special_node", special_node, METH_NOARGS, nullptr},
     {"ring_tables", ring_tables, METH_NOARGS, nullptr},
@@ -424,7 +402,6 @@ PyMethodDef methods[] = {
     {"destroy_module", destroy_module, METH_NOARGS, nullptr},
     {"convert", convert, METH_VARARGS, nullptr},
     {"convert_form", convert_form, METH_VARARGS, nullptr},
-    {"matrix_offsets", matrix_offsets, METH_NOARGS, nullptr},
     {"new_pointer", new_pointer, METH_VARARGS, nullptr},
     {"packed", packed, METH_VARARGS, nullptr},
     {"as_long", as_long, METH_O, nullptr},
