@@ -275,10 +275,9 @@ inline int SWIG_AsVal_double(PyObject *obj, double *val) {
 inline int SWIG_AsVal_float(PyObject *obj, float *val) {
     if (!PyFloat_CheckExact(obj)) return SWIG_AsVal_float_general(obj, val);
     double v = PyFloat_AS_DOUBLE(obj);
-    // Out of float's range but finite overflows; infinities and NaN pass as they are.
-    if ((v < -3.4028234663852886e+38 || v > 3.4028234663852886e+38) &&
-        (v >= -1.7976931348623157e+308 && v <= 1.7976931348623157e+308))
-        return SWIG_OverflowError;
+    // Past float's range, infinite or NaN: the general conversion decides.
+    if (!(v >= -3.4028234663852886e+38 && v <= 3.4028234663852886e+38))
+        return SWIG_AsVal_float_general(obj, val);
     if (val) *val = (float)v;
     return SWIG_OK;
 }
