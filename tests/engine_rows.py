@@ -1,18 +1,14 @@
-"""Every flat function of Referenced, CopyOp, Object, DummyObject, notification, the six
-vectors and Quat, written from OpenSceneGraph's headers.
-
-Argument codes say what a good call passes, argument 1 first: S self, s self of a const
-member, v another object of the row's class, D a fresh object of the row's class (for
-delete_), x a number, i an int, b True, t a str, n None, p the `_v_get` pointer of another
-object of the row's class, F a Vec3f, G a Vec3d, E a Vec4f, H a Vec4d, Q a Quat, M a Matrixd,
-N a Matrixf, c a CopyOp, o a DummyObject, r a Referenced, h a notify handler, d and f the
-element pointers of a Matrixd and a Matrixf, L and K lists of Vec3f and Vec3d points, B a
-bounding sphere, X a bounding box; for the render state A a Fog, and from the sibling module
-e a GLenum (GL_FOG), T a texture mode (GL_TEXTURE_2D), u an osg::Uniform::Type, z a
-std::string, a an osg::State, I an image and m a mode usage; for the camera Y a Camera, k a
-GLbitfield (colour and depth bits), U a texture, y a processor affinity and V a node visitor; for
-the scene graph (scene_rows) P a node path, W a value list, 1 a description list, 7 a geometry,
-8 a state set, 9 a clip plane and 0 a clip plane list."""
+"""Every flat function of the classes before the scene graph (scene_rows has those), written
+from OpenSceneGraph's headers. Argument codes say what a good call passes, argument 1 first:
+S self, s self of a const member, v another object of the row's class, D a fresh one (for
+delete_), p the `_v_get` pointer of another; x a number, i an int, b True, t a str, n None; F Vec3f,
+G Vec3d, E Vec4f, H Vec4d, Q Quat, M Matrixd, N Matrixf, c CopyOp, o DummyObject, r Referenced,
+h a notify handler, A a Fog, Y a Camera, V a node visitor, d and f the element pointers of a
+Matrixd and a Matrixf; from the sibling modules and the test peer L and K lists of Vec3f and Vec3d
+points, B a bounding sphere, X a bounding box, e a GLenum (GL_FOG), T a texture mode (GL_TEXTURE_2D),
+u an osg::Uniform::Type, z a std::string, k a GLbitfield, a an osg::State, I an image, m a mode
+usage, U a texture, y a processor affinity; for the scene graph P a node path, W a value list,
+1 a description list, 7 a geometry, 8 a state set, 9 a clip plane and 0 a clip plane list."""
 from collections import namedtuple
 
 from engine_support import SIZE, VECTORS

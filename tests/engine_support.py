@@ -24,22 +24,15 @@ SwigPyObject = type(_osg.notify())
 VECTORS = ["Vec2f", "Vec3f", "Vec4f", "Vec2d", "Vec3d", "Vec4d"]
 SIZE = {**{v: int(v[3]) for v in VECTORS}, "Quat": 4}
 ELEMENT = {**{v: "float" if v.endswith("f") else "double" for v in VECTORS}, "Quat": "double"}
-_DESTROY = {**{f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["Quat", "CopyOp", "Matrixd", "Matrixf",
-                                                                            "Plane"]},
-            # No delete function: the object part is at the start, so a Referenced proxy of the
-            # same address gives up the last reference.
-            **{f"osg::{c} *": lambda p: (p.disown(), free_borrowed(referenced(p))) for c in ["RefMatrixd", "RefMatrixf"]},
-            **{f"osg::{c} *": _osg.delete_Referenced for c in ["Referenced", "DummyObject"]},
-            "osg::StandardNotifyHandler *": _osg.delete_StandardNotifyHandler}
+# Values have destroy functions of their own; the group family gives its reference back through
+# the SDK's library; the other counted classes release one reference, except those made at count 0
+# with no destroy function (ref matrices, textures, cameras): they are freed through their Referenced part.
+_DESTROY = {f"osg::{c} *": getattr(_osg, f"delete_{c}") for c in VECTORS + ["Quat", "CopyOp", "Matrixd", "Matrixf", "Plane",
+                                                                          "StandardNotifyHandler", "CameraRenderOrderSortOp"]}
 _DESTROY.update({f"osg::{c} *": _osg.delete_Group for c in ["Group", "Geode", "Switch", "Transform", "MatrixTransform",
                                                              "PositionAttitudeTransform", "AutoTransform", "ClipNode"]})
-_DESTROY.update({"osg::Node *": _osg.delete_Referenced, "osgUtil::SmoothingVisitor *": _osg.delete_SmoothingVisitor})
-# Render state: attributes and state sets release one reference; a texture and a camera, made at
-# count 0 with no destroy function of their own, are freed through their Referenced part.
-_DESTROY.update({f"osg::{c} *": _osg.delete_Referenced for c in ["StateSet", "Fog", "ColorMask", "ClipPlane", "Viewport"]})
-_DESTROY.update({f"osg::{c} *": lambda p: (p.disown(), free_borrowed(referenced(p))) for c in ["Texture2D", "Camera"]})
-_DESTROY.update({"osg::CameraRenderOrderSortOp *": _osg.delete_CameraRenderOrderSortOp,
-                 "osg::Geometry *": _osg.delete_Referenced})
+_DESTROY["osgUtil::SmoothingVisitor *"] = _osg.delete_SmoothingVisitor
+_AT_ZERO = {f"osg::{c} *" for c in ["RefMatrixd", "RefMatrixf", "Texture2D", "Camera"]}
 
 
 def type_name(proxy):
@@ -60,7 +53,11 @@ def release(*proxies):
     (the values of _osgvalues free themselves)."""
     for p in proxies:
         if type(p).__name__ == "SwigPyObject" and p.own():  # _osgdraw's proxies have a type of their own
-            _DESTROY[type_name(p)](p)
+            if type_name(p) in _AT_ZERO:
+                p.disown()
+                free_borrowed(referenced(p))
+            else:
+                _DESTROY.get(type_name(p), _osg.delete_Referenced)(p)
 
 
 def free_borrowed(obj):

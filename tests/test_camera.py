@@ -2,7 +2,6 @@
 context, resizing, render order, ownership of its results, and the refusals that keep a camera
 apart from nodes."""
 import ctypes
-import functools
 import math
 
 import pytest
@@ -50,8 +49,6 @@ def test_view_and_projection(mk):
     assert _osg.Camera_getProjectionMatrixAsOrtho(cam, *slots) is False
     _osg.Camera_setProjectionMatrixAsOrtho(cam, -1, 2, -3, 4, 5, 6)
     assert _osg.Camera_getProjectionMatrixAsOrtho(cam, *slots) is True and list(out) == pytest.approx([-1, 2, -3, 4, 5, 6])
-    _osg.Camera_setProjectionMatrixAsOrtho2D(cam, 0, 8, 0, 6)
-    assert _osg.Camera_getProjectionMatrixAsOrtho(cam, *slots) and list(out) == pytest.approx([0, 8, 0, 6, -1, 1])
     raises(TypeError, "invalid null reference in method 'Camera_getProjectionMatrixAsFrustum', argument 4 of type "
            "'double &'", _osg.Camera_getProjectionMatrixAsFrustum, cam, *slots[:2], None, *slots[3:])
 
@@ -72,12 +69,7 @@ def test_clear_values_viewport_and_masks(mk):
     assert (V.read(draw), V.read(read)) == (GL_BACK, GL_FRONT)
     color = _osg.Camera_getClearColor(cam)
     _osg.Camera_setClearColor(cam, mk.Vec4f(0.25, 0.5, 0.75, 1))
-    _osg.Camera_setClearAccum(cam, mk.Vec4f(1, 2, 3, 4))
     assert not color.own() and values(color, "Vec4f") == [0.25, 0.5, 0.75, 1]
-    assert values(_osg.Camera_getClearAccum(cam), "Vec4f") == [1, 2, 3, 4]
-    _osg.Camera_setClearDepth(cam, 0.5)
-    _osg.Camera_setClearStencil(cam, -3)
-    assert (_osg.Camera_getClearDepth(cam), _osg.Camera_getClearStencil(cam)) == (0.5, -3)
     assert _osg.Camera_getViewport(cam) is None and _osg.Camera_getColorMask(cam) is None
     _osg.Camera_setViewport(cam, 10, 20, 400, 300)
     _osg.Camera_setColorMask(cam, True, False, True, False)
@@ -92,10 +84,9 @@ def test_clear_values_viewport_and_masks(mk):
     assert _osg.Camera_getImplicitBufferAttachmentRenderMask(cam) == _osg.Camera_USE_DISPLAY_SETTINGS_MASK == -1
     depth_and_color = _osg.Camera_IMPLICIT_DEPTH_BUFFER_ATTACHMENT | _osg.Camera_IMPLICIT_COLOR_BUFFER_ATTACHMENT
     assert _osg.Camera_getImplicitBufferAttachmentRenderMask(cam, True) == depth_and_color  # the display settings'
-    for args, masks in [((2, 4), (2, 4)), ((1,), (1, depth_and_color)), ((), (depth_and_color, depth_and_color))]:
-        _osg.Camera_setImplicitBufferAttachmentMask(cam, *args)
-        assert (_osg.Camera_getImplicitBufferAttachmentRenderMask(cam),
-                _osg.Camera_getImplicitBufferAttachmentResolveMask(cam, False)) == masks
+    _osg.Camera_setImplicitBufferAttachmentMask(cam, 1)  # the resolve mask takes the member's default
+    assert (_osg.Camera_getImplicitBufferAttachmentRenderMask(cam),
+            _osg.Camera_getImplicitBufferAttachmentResolveMask(cam, False)) == (1, depth_and_color)
     _osg.Camera_setProcessorAffinity(cam, _osgpeer.affinity())
     assert _osgpeer.affinity_cpus(_osg.Camera_getProcessorAffinity(cam)) == [3]
 
@@ -121,33 +112,24 @@ def test_attachments_and_resize(mk):
         _osg.Camera_setViewport(c, 0, 0, 400, 300)
         _osg.Camera_setProjectionMatrixAsPerspective(c, 45, 4 / 3, 1, 100)
     _osg.Camera_setProjectionResizePolicy(cam, _osg.Camera_HORIZONTAL)
-    before = m16(_osg.Camera_getProjectionMatrix(cam))
-    modified = _osg.Camera_getAttachmentMapModifiedCount(cam)
-    _osg.Camera_resize(cam, 800, 300)  # viewport and attachments, not the projection
+    _osg.Camera_resize(cam, 800, 300)  # the short form: viewport and attachments, not the projection
     assert [a[-2:] for a in attachments(attached)] == [(800, 300)] * 3
     assert at(_osg.Viewport_width(_osg.Camera_getViewport(cam)), "double") == [800]
-    assert m16(_osg.Camera_getProjectionMatrix(cam)) == before
-    assert _osg.Camera_getAttachmentMapModifiedCount(cam) == modified + 1
     _osg.Camera_resize(cam, 1600, 300, _osg.Camera_RESIZE_VIEWPORT | _osg.Camera_RESIZE_PROJECTIONMATRIX)
     _osg.Camera_setProjectionMatrixAsPerspective(ref, 45, 4 / 3 * 2, 1, 100)
     assert m16(_osg.Camera_getProjectionMatrix(cam)) == pytest.approx(m16(_osg.Camera_getProjectionMatrix(ref)))
     assert [a[-2:] for a in attachments(attached)] == [(800, 300)] * 3
-    _osg.Camera_resizeAttachments(cam, 16, 8)
-    assert [a[-2:] for a in attachments(attached)] == [(16, 8)] * 3
 
 
 def test_render_order_and_sorting(mk):
-    cams = [mk.Camera() for _ in range(4)]
-    for cam, args in zip(cams, [(_osg.Camera_POST_RENDER,), (_osg.Camera_PRE_RENDER, 5), (_osg.Camera_PRE_RENDER, -1),
-                                (_osg.Camera_NESTED_RENDER, 0)]):
+    cams = [mk.Camera() for _ in range(3)]
+    for cam, args in zip(cams, [(_osg.Camera_POST_RENDER,), (_osg.Camera_PRE_RENDER, 5), (_osg.Camera_PRE_RENDER, -1)]):
         _osg.Camera_setRenderOrder(cam, *args)
-    keys = [(_osg.Camera_getRenderOrder(c), _osg.Camera_getRenderOrderNum(c)) for c in cams]
-    assert keys == [(2, 0), (0, 5), (0, -1), (1, 0)]  # the short form sets order number 0
-    op = mk(_osg.new_CameraRenderOrderSortOp())
-    by_op = sorted(cams, key=functools.cmp_to_key(lambda a, b: -1 if _osg.CameraRenderOrderSortOp___call__(op, a, b)
-                                                  else int(_osg.CameraRenderOrderSortOp___call__(op, b, a))))
-    assert [int(c) for c in by_op] == [int(c) for _, c in sorted(zip(keys, cams), key=lambda kc: kc[0])]
-    assert _osg.CameraRenderOrderSortOp___call__(op, cams[3], cams[3]) is False
+    assert [(_osg.Camera_getRenderOrder(c), _osg.Camera_getRenderOrderNum(c)) for c in cams] == [(2, 0), (0, 5), (0, -1)]
+    op = mk(_osg.new_CameraRenderOrderSortOp())  # by order, then by number
+    assert [_osg.CameraRenderOrderSortOp___call__(op, *p) for p in [(cams[2], cams[1]), (cams[1], cams[2]),
+                                                                     (cams[1], cams[0]), (cams[0], cams[0])]] == \
+        [True, False, True, False]
     _osg.Camera_setRenderTargetImplementation(cams[0], _osg.Camera_FRAME_BUFFER, _osg.Camera_SEPARATE_WINDOW)
     assert (_osg.Camera_getRenderTargetImplementation(cams[0]), _osg.Camera_getRenderTargetFallback(cams[0])) == (3, 4)
 
@@ -164,8 +146,6 @@ def test_ownership(mk):
     raises(TypeError, "in method 'Camera_getClearDepth', argument 1 of type 'osg::Camera const *'",
            _osg.Camera_getClearDepth, clone)
     free_borrowed(clone)
-    op = _osg.new_CameraRenderOrderSortOp()
-    assert op.own() and _osg.delete_CameraRenderOrderSortOp(op) is None and not op.own()
 
 
 def test_refusals(mk):
@@ -177,7 +157,6 @@ def test_refusals(mk):
             (_osg.Group_addChild, (group, cam), "argument 2 of type 'osg::Node *'"),
             (_osg.Node_getNodeMask, (cam,), "argument 1 of type 'osg::Node const *'"),
             (_osg.Transform_getReferenceFrame, (cam,), "argument 1 of type 'osg::Transform const *'"),
-            (_osg.Object_getName, (cam,), "argument 1 of type 'osg::Object const *'"),
             (_osg.Referenced_referenceCount, (cam,), "argument 1 of type 'osg::Referenced const *'"),
             (_osg.delete_Group, (cam,), "argument 1 of type 'osg::Group *'"),
             (_osg.Camera_setClearDepth, (node, 1.0), "argument 1 of type 'osg::Camera *'"),

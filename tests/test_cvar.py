@@ -1,6 +1,6 @@
 import pytest
 
-from engine_support import _osg, _osgpeer as peer, raises
+from engine_support import _osg, raises, values
 
 cvar = _osg.cvar
 VARIABLES = ["X_AXIS", "Y_AXIS", "Z_AXIS", "Camera_FACE_CONTROLLED_BY_GEOMETRY_SHADER"]
@@ -30,7 +30,7 @@ def test_unknown_names(name):
 
 def test_axes_and_the_face_constant():
     axes = [getattr(cvar, n) for n in VARIABLES[:3]]
-    assert [peer.read_vec3f(a) for a in axes] == [(1, 0, 0), (0, 1, 0), (0, 0, 1)]
+    assert [values(a, "Vec3f") for a in axes] == [[1, 0, 0], [0, 1, 0], [0, 0, 1]]
     assert len({int(a) for a in axes}) == 3 and cvar.X_AXIS is not cvar.X_AXIS and cvar.X_AXIS == cvar.X_AXIS
     assert all(a.own() is False and repr(a).startswith("<Swig Object of type 'osg::Vec3f *' at 0x") for a in axes)
     value = cvar.Camera_FACE_CONTROLLED_BY_GEOMETRY_SHADER

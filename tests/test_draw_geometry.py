@@ -1,36 +1,22 @@
-"""_osgdraw's geometry: arrays and element lists from lists and buffers, their views, smoothing,
+"""_osgdraw's geometry: arrays and element lists from lists and buffers, their views, normals,
 bounds, errors, owners kept alive by views, and no leaks."""
 import array
 import atexit
-import math
 import sys
 
 import pytest
 
 import _osg
 import _osgdraw as D
-from engine_support import V, _osgpeer as P, count
+from engine_support import V, _osgpeer as P, count, values
 
 GL_TRIANGLES, GL_FLOAT, GL_UNSIGNED_INT = 4, 0x1406, 0x1405
 rc = _osg.Referenced_referenceCount
 TRIANGLES_MODE, LINES_MODE = V.glenum(GL_TRIANGLES), V.glenum(1)
-# Two triangles folded along the edge p0-p1; the second is twice the area of the first.
 POINTS = [(0.0, 0.0, 0.0), (1.0, 0.0, 0.0), (0.0, 1.0, 0.0), (0.0, 0.0, 2.0)]
 TRIANGLES = [0, 1, 2, 1, 0, 3]
 VALUES = "std::vector< osg::Vec3f > const &"
 VECTORS = [_osg.new_Vec3f(*p) for p in POINTS]
-
-
-def smoothed(points, triangles):
-    """Vertex normals as OSG's smoothing sums them: face normals weighted by area, normalised."""
-    sums = [[0.0] * 3 for _ in points]
-    for i in range(0, len(triangles), 3):
-        a, b, c = (points[j] for j in triangles[i:i + 3])
-        u, v = [q - p for p, q in zip(a, b)], [q - p for p, q in zip(a, c)]
-        n = [u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2], u[0] * v[1] - u[1] * v[0]]
-        for j in triangles[i:i + 3]:
-            sums[j] = [s + x for s, x in zip(sums[j], n)]
-    return [[x / math.hypot(*s) for x in s] for s in sums]
 
 
 def mesh(points=POINTS):
@@ -49,7 +35,7 @@ def enum(result):
 
 def vec3(v):
     """The components of an owned Vec3f result, which is then freed."""
-    out = list(P.read_vec3f(v))
+    out = values(v, "Vec3f")
     _osg.delete_Vec3f(v)
     return out
 
@@ -101,7 +87,7 @@ def test_vector_arrays_of_each_size(k):
     free(a, b)
 
 
-def test_element_list_indices_modes_and_smoothing():
+def test_element_list_indices_modes_and_normals():
     g = mesh()
     prims = D.Geometry_getPrimitiveSet(g, 0)
     assert D.PrimitiveSet___buffer__(prims, 0).tolist() == TRIANGLES
@@ -113,9 +99,7 @@ def test_element_list_indices_modes_and_smoothing():
     view = D.DrawElementsUInt___buffer__(e, 0)
     assert (view.format, view.tolist(), D.DrawElementsUInt_getElement(e, 2)) == ("I", [3, 2, 7], 7)
     assert enum(D.DrawElementsUInt_getDataType(e)) == GL_UNSIGNED_INT and D.PrimitiveSet_LINES == 1
-    _osg.SmoothingVisitor_smooth(g)
-    normals = D.Array___buffer__(D.Geometry_getNormalArray(g), 0).tolist()
-    assert sum(normals, []) == pytest.approx(sum(smoothed(POINTS, TRIANGLES), []), abs=1e-6)
+    _osg.SmoothingVisitor_smooth(g)  # what the normals are, test_scene's folded mesh checks
     assert D.Array_getBinding(D.Geometry_getNormalArray(g)) == D.Array_BIND_PER_VERTEX
     view.release()
     free(e, g)
@@ -201,7 +185,7 @@ def test_views_keep_owners_alive_and_pin_memory():
     mv = D.Vec3f___buffer__(v, 0)
     assert (sys.getrefcount(v), mv.tolist()) == (before + 1, [1, 2, 3])
     mv[2] = 9
-    assert P.read_vec3f(v) == (1, 2, 9)
+    assert values(v, "Vec3f") == [1, 2, 9]
     del mv
     assert sys.getrefcount(v) == before
     _osg.delete_Vec3f(v)
@@ -213,11 +197,8 @@ def test_matrix_and_image_views():
     assert (mv.format, mv.shape, mv.tolist()[3]) == ("d", (4, 4), [1, 2, 3, 1])   # OSG: translation in row 3
     mv[0, 1] = 7
     assert _osg.Matrixd___call__(m, 0, 1) == 7
-    f = _osg.new_Matrixf(*range(16))
-    assert D.Matrixf___buffer__(f, 0).tolist() == [[4.0 * r + c for c in range(4)] for r in range(4)]
     del mv
     _osg.delete_Matrixd(m)
-    _osg.delete_Matrixf(f)
     image = P.make_image(3, 2)               # RGBA, 8 bits a component
     before = count(image)
     pixels = D.Image___buffer__(image, 0)
@@ -265,14 +246,9 @@ def test_repeated_calls_leak_nothing():
 
 def test_registered_classes_export_through_pep688(run_py):
     out, _ = run_py("""
-        import _osg, _osgdraw as D, _osgpeer
-        class Vec3Array:
-            __swig_destroy__ = _osg.delete_Referenced
-            def __init__(self, *args): D.Vec3Array_swiginit(self, D.new_Vec3Array(*args))
-            def __buffer__(self, flags): return D.Vec3Array___buffer__(self, flags)
-        D.Vec3Array_swigregister(Vec3Array)
-        a = Vec3Array([(1, 2, 3), (4, 5, 6)])
-        alias = _osgpeer.new_pointer(int(a.this), "_p_osg__Referenced", 0)
+        import osg, _osg, _osgvalues
+        a = osg.Vec3Array([(1, 2, 3), (4, 5, 6)])
+        alias = _osgvalues.pointer(int(a.this), "_p_osg__Referenced")
         view = memoryview(a)
         del a                                     # the view holds the instance, whose destroy comes later
         print(view.tolist(), view.shape, _osg.Referenced_referenceCount(alias))

@@ -18,17 +18,8 @@ def test_constructors_own_bare_pointer_objects(mk, cls, args):
     assert (type(p), p.own(), type_name(p)) == (SwigPyObject, True, f"osg::{cls} *")
     if cls in ("Referenced", "DummyObject", "StandardNotifyHandler"):
         assert _osg.Referenced_referenceCount(p) == 1
-
-
-def test_reference_counts(mk):
-    r, d = mk.Referenced(), mk.DummyObject()
-    assert _osg.Referenced_referenceCount(mk.Referenced(r)) == 1  # a copy starts at 0 and is referenced once
-    copy = mk.DummyObject(d, mk.CopyOp())
-    assert int(copy) != int(d) and _osg.Referenced_referenceCount(copy) == 1
-    assert _osg.intrusive_ptr_add_ref(r) is None and _osg.Referenced_referenceCount(r) == 2
-    assert _osg.intrusive_ptr_release(r) is None and _osg.Referenced_referenceCount(r) == 1
-    _osg.intrusive_ptr_add_ref(r)
-    assert _osg.Referenced_unref_nodelete(r) == 1 and _osg.Referenced_referenceCount(r) == 1
+    if args == () and cls == "Referenced":
+        assert _osg.Referenced_referenceCount(mk.Referenced(p)) == 1  # a copy is referenced once too
 
 
 @pytest.mark.parametrize("new,delete", [("Referenced", "Referenced"), ("DummyObject", "Referenced"),
@@ -135,19 +126,6 @@ def _child_shadow_instances():
     same = _osg.CopyOp___call__(c.CopyOp(), d)  # borrowed results too
     assert (type(same), same.thisown, int(same.this), same.className()) == (c.Object, False, int(d.this), "DummyObject")
     assert type(_osg.notify()) is SwigPyObject  # a type without a class
-
-
-def _child_results_keep_the_class_cache():
-    import companion as c
-    a, b = c.Vec3f(1, 2, 3), c.Vec3f(1, 1, 1)
-    for _ in range(2000):
-        s = a + b
-    s.length()  # a lookup through the class, after two thousand results
-    print(type(s).__name__, _osgpeer.type_version(c.Vec3f) != 0)
-
-
-def test_by_value_results_leave_the_class_attribute_cache_working(run_py):
-    assert run_py("import test_ownership; test_ownership._child_results_keep_the_class_cache()")[0] == "Vec3f True\n"
 
 
 def test_registered_classes_make_shadow_instances(run_py):

@@ -57,9 +57,8 @@ def test_parents_and_children(scene):
     assert _osg.Group_removeChild(root, 2, 2) and _osg.Group_getNumChildren(root) == 2
     assert _osg.Group_removeChild(root, leaf) is False and _osg.Group_addChild(root, None) is False
     assert [_osg.Referenced_referenceCount(n) for n in extra] == [1, 1, 1]  # the group dropped its own
-    paths, also = _osg.Node_getParentalNodePaths(leaf), _osg.Node_getParentalNodePaths(leaf, None)
-    assert paths.thisown and also.thisown
-    assert plain(V.read(paths)) == plain(V.read(also)) == [[int(root), int(mt), int(pat), int(leaf)]]
+    paths = _osg.Node_getParentalNodePaths(leaf, None)
+    assert paths.thisown and plain(V.read(paths)) == [[int(root), int(mt), int(pat), int(leaf)]]
     for n in extra:
         _osg.delete_Referenced(n)
 
@@ -70,7 +69,6 @@ def test_world_matrices_of_a_node_path(scene, mk):
     world = mk(_osg.computeLocalToWorld(path))
     assert world.own()
     assert point(world, [1, 0, 0]) == pytest.approx([11, 24, 33])  # scale, turn, move, then translate
-    assert m16(world) == m16(mk(_osg.computeLocalToWorld(path, True)))
     assert point(mk(_osg.computeWorldToLocal(path)), [11, 24, 33]) == pytest.approx([1, 0, 0])
     (only,) = map(mk, V.read(_osg.Node_getWorldMatrices(leaf)))
     assert m16(only) == pytest.approx(m16(world))
@@ -85,7 +83,6 @@ def test_world_matrices_of_a_node_path(scene, mk):
     # None fails the dispatcher's reference test, so the overload message is raised.
     raises(TypeError, overload_message("computeEyeToLocal"), _osg.computeEyeToLocal, view, None)
     raises(TypeError, overload_message("computeLocalToWorld"), _osg.computeLocalToWorld, [root, mt])
-    raises(TypeError, overload_message("computeLocalToWorld"), _osg.computeLocalToWorld, path, 1)
     held = _osg.MatrixTransform_getMatrix(mt)
     _osg.MatrixTransform_postMult(mt, translate(1, 1, 1, mk))
     assert point(held, [0, 0, 0]) == [11, 21, 31] and not held.own()  # the node's own matrix
@@ -102,9 +99,6 @@ def test_transform_accessors(made, mk):
     assert _osg.Vec3d_length2(scale) == 12 and not scale.own()
     _osg.AutoTransform_setScale(at, mk.Vec3d(1, 2, 3))
     assert _osg.Vec3d_length2(scale) == 14
-    _osg.Transform_setReferenceFrame(at, _osg.Transform_ABSOLUTE_RF)
-    _osg.AutoTransform_setAutoRotateMode(at, _osg.AutoTransform_ROTATE_TO_AXIS)
-    assert (_osg.Transform_getReferenceFrame(at), _osg.AutoTransform_getAutoRotateMode(at)) == (1, 3)
     refuse((OverflowError, "AutoTransform_setAutoUpdateEyeMovementTolerance", 2, "float", at, 1e39),
            (TypeError, "AutoTransform_setAutoScaleToScreen", 2, "bool", at, 1),
            (TypeError, "!PositionAttitudeTransform_setPosition", 2, "osg::Vec3d const &",
@@ -165,12 +159,6 @@ def test_node_values(made, mk):
     assert int(_osg.Node_getStateSet(n)) == int(state) and not state.own()
     _osg.Node_setInitialBound(n, V.bounding_sphere(1, 2, 3, 4))
     assert V.read(_osg.Node_getBound(n)) == V.read(_osg.Node_getInitialBound(n)) == ((1, 2, 3), 4)
-    clone = _osg.Group_clone(g, mk.CopyOp())
-    assert (type_name(clone), clone.own(), _osg.Referenced_referenceCount(clone)) == ("osg::Object *", False, 0)
-    assert _osg.Object_className(clone) == "Group" and _osg.Group_isSameKindAs(g, clone)
-    free_borrowed(clone)
-    assert (_osg.Node_className(n), _osg.Node_libraryName(n), _osg.AutoTransform_className(made(_osg.new_AutoTransform()))) \
-        == ("Node", "osg", "AutoTransform")
     _osg.delete_Referenced(n)
 
 
@@ -201,7 +189,6 @@ def test_clip_box(scene, made):
     _osg.ClipNode_setClipPlaneList(other, planes)
     assert _osg.ClipNode_getNumClipPlanes(other) == 4 and _osg.ClipNode_addClipPlane(other, first)
     _osg.intrusive_ptr_release(first)
-    assert _osg.ClipNode_setLocalStateSetModes(other) is None and _osg.Node_getStateSet(other) is not None
     raises(TypeError, overload_message("ClipNode_createClipBox"), _osg.ClipNode_createClipBox, other, None)
 
 
@@ -230,18 +217,13 @@ def test_smoothing_a_folded_mesh(made, mk):
     assert smoothed() == smoothed(math.pi) == flat(HALF, HALF, UP, HALF, HALF, SIDE)
     # A crease sharper than the angle stays sharp: each face keeps its own normal.
     assert smoothed(1) == flat(UP, UP, UP, SIDE, SIDE, SIDE)
-    visitor = _osg.new_SmoothingVisitor()
+    # A visitor run over a subgraph reaches the geode's geometry, with its own crease angle.
+    visitor, geode, g = _osg.new_SmoothingVisitor(), made(_osg.new_Geode()), mk(mesh(FOLD))
     assert _osg.SmoothingVisitor_getCreaseAngle(visitor) == math.pi
     _osg.SmoothingVisitor_setCreaseAngle(visitor, 0.5)
-    g = mk(mesh(FOLD))
-    _osg.SmoothingVisitor_apply(visitor, g)
-    assert corner_normals(g) == flat(UP, UP, UP, SIDE, SIDE, SIDE)
-    # Run over a subgraph: the visitor reaches the geode's geometry.
-    geode, g = made(_osg.new_Geode()), mk(mesh(FOLD))
     assert _osg.Geode_addDrawable(geode, g) and _osg.Geode_getNumDrawables(geode) == 1
-    _osg.SmoothingVisitor_setCreaseAngle(visitor, math.pi)
     _osg.Node_accept(geode, visitor)
-    assert corner_normals(g) == flat(HALF, HALF, UP, HALF, HALF, SIDE)
+    assert corner_normals(g) == flat(UP, UP, UP, SIDE, SIDE, SIDE)
     assert V.read(_osg.Geode_getBoundingBox(geode)) == (0, 0, 0, 1, 1, 1)
     center, radius = V.read(_osg.Node_getBound(geode))
     assert center == (0.5, 0.5, 0.5) and radius == pytest.approx(math.sqrt(0.75))

@@ -5,14 +5,12 @@
 #include "runtime/swigrt.h"
 
 #include <osg/Node>
-#include <osg/Vec3f>
 #include <osg/Image>
 #include <osg/State>
 #include <osg/StateSet>
 #include <osg/Texture2D>
 #include <osg/Camera>
 #include <set>
-#include <string>
 #include <vector>
 
 namespace peer {
@@ -53,7 +51,6 @@ swig_cast_info *cast_initial[] = {cast_GLenum, cast_Node, cast_Vec3f, cast_Speci
 swig_type_info *types[type_count + 1];
 swig_module_info module = {types, type_count, nullptr, nullptr, nullptr, nullptr};
 
-std::string strings[4];
 peer::SpecialNode *special = nullptr;
 
 swig_module_info *ring() {
@@ -74,33 +71,6 @@ swig_type_info *find_or_raise(const char *name) {
 }
 
 // ---- pointers of shared descriptors -------------------------------------------------
-
-PyObject *string_ptr(PyObject *, PyObject *args) {
-    int slot;
-    const char *text;
-    if (!PyArg_ParseTuple(args, "is", &slot, &text)) return nullptr;
-    strings[slot & 3] = text;
-    return SWIG_Python_NewPointerObj(&strings[slot & 3], types[std__string], 0);
-}
-
-PyObject *read_string(PyObject *, PyObject *arg) {
-    void *p = nullptr;
-    if (SWIG_ConvertPtrNonNull(arg, &p, types[std__string]) != SWIG_OK) {
-        PyErr_SetString(PyExc_TypeError, "not a std::string pointer");
-        return nullptr;
-    }
-    return PyUnicode_FromString(static_cast<std::string *>(p)->c_str());
-}
-
-PyObject *read_vec3f(PyObject *, PyObject *arg) {
-    void *p = nullptr;
-    if (SWIG_ConvertPtrNonNull(arg, &p, types[osg__Vec3f]) != SWIG_OK) {
-        PyErr_SetString(PyExc_TypeError, "not a osg::Vec3f pointer");
-        return nullptr;
-    }
-    auto *v = static_cast<osg::Vec3f *>(p);
-    return Py_BuildValue("(ddd)", (double)v->x(), (double)v->y(), (double)v->z());
-}
 
 PyObject *special_node(PyObject *, PyObject *) {
     if (!special) {
@@ -166,12 +136,6 @@ PyObject *recorded_modes(PyObject *, PyObject *) {
 }
 
 // ---- runtime introspection ------------------------------------------------------------
-
-// The version tag of a class's attribute cache: 0 once CPython stopped caching for it.
-PyObject *type_version(PyObject *, PyObject *arg) {
-    if (!PyType_Check(arg)) return PyErr_Format(PyExc_TypeError, "a class");
-    return PyLong_FromUnsignedLong(((PyTypeObject *)arg)->tp_version_tag);
-}
 
 PyObject *ring_tables(PyObject *, PyObject *) {
     PyObject *out = PyList_New(0);
@@ -299,25 +263,21 @@ PyObject *status_pair(int status, PyObject *value) {
     return Py_BuildValue("(iNO)", status, value, pending ? Py_True : Py_False);
 }
 
-PyObject *as_long(PyObject *, PyObject *arg) {
-    long v = 0;
-    int s = SWIG_AsVal_long(arg, &v);
-    return status_pair(s, PyLong_FromLong(v));
-}
-PyObject *as_ulong(PyObject *, PyObject *arg) {
-    unsigned long v = 0;
-    int s = SWIG_AsVal_unsigned_SS_long(arg, &v);
-    return status_pair(s, PyLong_FromUnsignedLong(v));
-}
-PyObject *as_double(PyObject *, PyObject *arg) {
-    double v = 0;
-    int s = SWIG_AsVal_double(arg, &v);
-    return status_pair(s, PyFloat_FromDouble(v));
-}
-PyObject *as_float(PyObject *, PyObject *arg) {
-    float v = 0;
-    int s = SWIG_AsVal_float(arg, &v);
-    return status_pair(s, PyFloat_FromDouble(v));
+// as_number(kind, obj): the scalar converter of kind "long", "ulong", "double" or "float".
+PyObject *as_number(PyObject *, PyObject *args) {
+    const char *kind;
+    PyObject *arg;
+    if (!PyArg_ParseTuple(args, "sO", &kind, &arg)) return nullptr;
+    long l = 0;
+    unsigned long u = 0;
+    double d = 0;
+    float f = 0;
+    switch (kind[0]) {
+        case 'l': { int s = SWIG_AsVal_long(arg, &l); return status_pair(s, PyLong_FromLong(l)); }
+        case 'u': { int s = SWIG_AsVal_unsigned_SS_long(arg, &u); return status_pair(s, PyLong_FromUnsignedLong(u)); }
+        case 'd': { int s = SWIG_AsVal_double(arg, &d); return status_pair(s, PyFloat_FromDouble(d)); }
+        default: { int s = SWIG_AsVal_float(arg, &f); return status_pair(s, PyFloat_FromDouble(f)); }
+    }
 }
 
 PyObject *error_type(PyObject *, PyObject *arg) { return Py_NewRef(SWIG_Python_ErrorType((int)PyLong_AsLong(arg))); }
@@ -387,12 +347,8 @@ PyObject *affinity_cpus(PyObject *, PyObject *arg) {
 }
 
 PyMethodDef methods[] = {
-    {"string_ptr", string_ptr, METH_VARARGS, nullptr},
-    {"read_string", read_string, METH_O, nullptr},
-    {"read_vec3f", read_vec3f, METH_O, nullptr},
     {"special_node", special_node, METH_NOARGS, nullptr},
     {"ring_tables", ring_tables, METH_NOARGS, nullptr},
-    {"type_version", type_version, METH_O, nullptr},
     {"own_module", own_module, METH_NOARGS, nullptr},
     {"cast_list", cast_list, METH_O, nullptr},
     {"type_query", type_query, METH_O, nullptr},
@@ -404,10 +360,7 @@ PyMethodDef methods[] = {
     {"convert_form", convert_form, METH_VARARGS, nullptr},
     {"new_pointer", new_pointer, METH_VARARGS, nullptr},
     {"packed", packed, METH_VARARGS, nullptr},
-    {"as_long", as_long, METH_O, nullptr},
-    {"as_ulong", as_ulong, METH_O, nullptr},
-    {"as_double", as_double, METH_O, nullptr},
-    {"as_float", as_float, METH_O, nullptr},
+    {"as_number", as_number, METH_VARARGS, nullptr},
     {"error_type", error_type, METH_O, nullptr},
     {"unpack", unpack, METH_VARARGS, nullptr},
     {"raise_or_modify", raise_or_modify, METH_VARARGS, nullptr},
